@@ -1,0 +1,3 @@
+#include "core/IDomainXml.h"
+
+IDomainXml::~IDomainXml() = default;

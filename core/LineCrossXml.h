@@ -1,0 +1,18 @@
+#pragma once
+
+#include "domain/CoreRecords.h"
+
+#include <string>
+
+/// A line that objects may cross: the "LineCross" document.
+///
+/// A missing property leaves its field.
+class LineCrossXml
+{
+public:
+    LineCrossXml();
+    virtual ~LineCrossXml();
+
+    bool createXmlString(const LineCross& line, std::string& text) const;
+    bool parseXmlString(const std::string& text, LineCross& line) const;
+};

@@ -1,0 +1,32 @@
+// <PolygonArealist>
+//     <ZTPoint AttrXval="0.25" AttrYval="0.5" />
+// </PolygonArealist>
+
+#include "core/PolygonAreaXml.h"
+
+#include "core/Frame.h"
+
+#include <vector>
+
+bool PolygonAreaXml::createXmlString(const PolygonArea& area, std::string& text) const
+{
+    SafePointer<DomainXmlNode> root = frame::makeNode("PolygonArealist");
+    for (const ZTPoint& point : area.getVecPoints())
+    {
+        SafePointer<DomainXmlNode> node = frame::appendNode(root, "ZTPoint");
+        node->setProperty("AttrXval", point.getX());
+        node->setProperty("AttrYval", point.getY());
+    }
+    return DomainXmlNode::toString(root, text);
+}
+
+bool PolygonAreaXml::parseXmlString(const std::string& text, PolygonArea& area) const
+{
+    SafePointer<DomainXmlNode> root;
+    std::vector<SafePointer<DomainXmlNode>> points;
+    if (!DomainXmlNode::parse(text, "PolygonArealist", root) || !root->getAllConfigNodeList(points)) return false;
+
+    for (const SafePointer<DomainXmlNode>& point : points)
+        area.addPoint(frame::floatProperty(point, "AttrXval", 0), frame::floatProperty(point, "AttrYval", 0));
+    return true;
+}
