@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <tinyxml.h>
+
+/// The steps of reading and writing by hand on bare TinyXML, which is what the library is measured against.
+namespace bare
+{
+
+inline TiXmlElement& appendElement(TiXmlNode& parent, const char* name)
+{
+    TiXmlElement* element = new TiXmlElement(name);
+    parent.LinkEndChild(element);
+    return *element;
+}
+
+inline std::string print(const TiXmlDocument& document)
+{
+    TiXmlPrinter printer;
+    printer.SetIndent("\t");
+    document.Accept(&printer);
+    return printer.Str();
+}
+
+/// The element named @p root of @p text, in @p document; null without it.
+inline const TiXmlElement* parse(TiXmlDocument& document, const std::string& text, const char* root)
+{
+    document.Parse(text.c_str());
+    return document.Error() ? nullptr : document.FirstChildElement(root);
+}
+
+inline int intOf(const TiXmlElement& element, const char* name, int missing)
+{
+    const char* text = element.Attribute(name);
+    return text != nullptr ? static_cast<int>(std::strtol(text, nullptr, 10)) : missing;
+}
+
+inline bool flagOf(const TiXmlElement& element, const char* name)
+{
+    const char* text = element.Attribute(name);
+    return text != nullptr && (std::strcmp(text, "true") == 0 || std::strcmp(text, "1") == 0);
+}
+
+inline const char* textOf(const TiXmlElement& element, const char* name)
+{
+    const char* text = element.Attribute(name);
+    return text != nullptr ? text : "";
+}
+
+} // namespace bare
