@@ -13,8 +13,8 @@
 class BaseSafePointer
 {
 public:
-    // The destructor of a SafePointer may raise, and an overriding destructor may not be looser than this one. It is
-    // not defaulted: older compilers refuse to default what has another exception specification than the implicit one.
+    // The destructor of a SafePointer may raise, and so this one has to allow it. It is not defaulted: older compilers
+    // refuse to default one that may raise where the implicit one may not.
     virtual ~BaseSafePointer() noexcept(false) {} // NOLINT(modernize-use-equals-default)
 };
 

@@ -116,6 +116,22 @@ TEST(XmlPrinter, EscapesEveryByteAsTinyXmlDoes)
     EXPECT_NE(std::string::npos, printedByUs(element).find(" quote='&quot;'"));
 }
 
+// The printer gathers pieces of up to some hundred bytes before it hands them on.
+TEST(XmlPrinter, PrintsPiecesOfAnyLength)
+{
+    for (std::size_t length = 0; length < 1100; ++length)
+    {
+        const std::string piece(length, 'x');
+        TiXmlDocument document;
+        document.LinkEndChild(new TiXmlComment(piece.c_str()));
+        TiXmlElement& element = frame::appendElement(document, ("e" + piece).c_str());
+        frame::setText(element, ("n" + piece).c_str(), piece);
+        frame::setText(element, "escaped", piece + "&" + piece);
+        element.LinkEndChild(new TiXmlText(piece + "<"));
+        ASSERT_EQ(printedByTinyXml(document), printedByUs(document)) << length;
+    }
+}
+
 TEST(XmlPrinter, PrintsAnyTreeAsTinyXmlDoes)
 {
     for (unsigned seed = 0; seed < 3000; ++seed)
