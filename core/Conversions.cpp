@@ -74,15 +74,6 @@ bool readUnsigned(const char* text, unsigned long long& value)
     return true;
 }
 
-bool readFloat(const char* text, float& value)
-{
-    char* end = nullptr;
-    const float number = strtof_l(text, &end, wireLocale());
-    if (end == text) return false;
-    value = number;
-    return true;
-}
-
 bool readDouble(const char* text, double& value)
 {
     char* end = nullptr;

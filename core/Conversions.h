@@ -25,7 +25,6 @@ const char* flagText(bool value);
 /// @{
 bool readInteger(const char* text, long long& value);
 bool readUnsigned(const char* text, unsigned long long& value);
-bool readFloat(const char* text, float& value);
 bool readDouble(const char* text, double& value);
 /// @}
 

@@ -52,9 +52,6 @@ TEST(Conversions, TellNumbersFromOtherText)
     double number = 7;
     EXPECT_FALSE(frame::readDouble(".", number));
     EXPECT_EQ(7, number);
-    float single = 7;
-    EXPECT_FALSE(frame::readFloat("-", single));
-    EXPECT_EQ(7, single);
 }
 
 TEST(Conversions, ReadFlags)
