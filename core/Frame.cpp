@@ -13,20 +13,6 @@ namespace frame
 namespace
 {
 
-/// The attribute's text; null if it is missing. TinyXML's own search compares whole names one by one; most differ in
-/// their length already.
-const char* attributeOf(const TiXmlElement& element, const char* name)
-{
-    const std::size_t length = std::strlen(name);
-    for (const TiXmlAttribute* attribute = element.FirstAttribute(); attribute != nullptr;
-         attribute = attribute->Next())
-    {
-        const std::string& candidate = attribute->NameTStr();
-        if (candidate.size() == length && std::memcmp(candidate.data(), name, length) == 0) return attribute->Value();
-    }
-    return nullptr;
-}
-
 /// The property's text; null, after printing @p line if there is one, where it is missing.
 const char* propertyOf(const SafePointer<DomainXmlNode>& node, const char* name, const char* line)
 {
@@ -128,6 +114,19 @@ void setText(TiXmlElement& element, const char* name, const std::string& value)
         element.SetAttribute(std::string(name), value);
 }
 
+const char* attributeOf(const TiXmlElement& element, const char* name)
+{
+    // TinyXML's own search compares whole names; most differ in their length already.
+    const std::size_t length = std::strlen(name);
+    for (const TiXmlAttribute* attribute = element.FirstAttribute(); attribute != nullptr;
+         attribute = attribute->Next())
+    {
+        const std::string& candidate = attribute->NameTStr();
+        if (candidate.size() == length && std::memcmp(candidate.data(), name, length) == 0) return attribute->Value();
+    }
+    return nullptr;
+}
+
 int intOf(const TiXmlElement& element, const char* name, int missing)
 {
     return static_cast<int>(int64Of(element, name, missing));
@@ -193,6 +192,17 @@ const TiXmlElement* firstItem(const TiXmlElement& parent, const char* container,
 SafePointer<DomainXmlNode> makeNode(const char* name)
 {
     return SafePointer<DomainXmlNode>(new DomainXmlNode(name));
+}
+
+SafePointer<DomainXmlNode> nodeOf(TiXmlElement& element)
+{
+    return SafePointer<DomainXmlNode>(new DomainXmlNode(&element));
+}
+
+TiXmlElement* firstChild(const SafePointer<DomainXmlNode>& node)
+{
+    TiXmlElement* element = node->getXmlNode();
+    return element != nullptr ? element->FirstChildElement() : nullptr;
 }
 
 SafePointer<DomainXmlNode> appendNode(SafePointer<DomainXmlNode>& parent, const char* name)

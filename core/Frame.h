@@ -51,6 +51,9 @@ void setText(TiXmlElement& element, const char* name, const std::string& value);
 /// @name Reading elements
 /// @{
 
+/// The attribute's text; null if it is missing.
+const char* attributeOf(const TiXmlElement& element, const char* name);
+
 int intOf(const TiXmlElement& element, const char* name, int missing);
 std::uint16_t uint16Of(const TiXmlElement& element, const char* name, std::uint16_t missing);
 std::uint32_t uint32Of(const TiXmlElement& element, const char* name, std::uint32_t missing);
@@ -73,6 +76,11 @@ const TiXmlElement* firstItem(const TiXmlElement& parent, const char* container,
 
 /// A node that is the top of a tree of its own.
 SafePointer<DomainXmlNode> makeNode(const char* name);
+/// A node for @p element, which stands in the tree of a node that is held.
+SafePointer<DomainXmlNode> nodeOf(TiXmlElement& element);
+/// The first child of @p node, whatever its name; null if there is none. Readers of lists walk on from there by
+/// `NextSiblingElement` and hold one item at a time: nodes for all at once would take more room than the items.
+TiXmlElement* firstChild(const SafePointer<DomainXmlNode>& node);
 /// A new child at the end of @p parent; a node without an element if that has none.
 SafePointer<DomainXmlNode> appendNode(SafePointer<DomainXmlNode>& parent, const char* name);
 

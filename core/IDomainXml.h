@@ -34,7 +34,7 @@
 /// @par Errors
 /// Reading gives false for a text that is malformed, empty, nested deeper than 32 elements, has an element of more than
 /// 256 attributes, or has another root. The record is then untouched. A false result from behind the root leaves in the
-/// record what was read so far.
+/// record what was read so far, unless the codec's page says otherwise.
 ///
 /// @par Threads
 /// Codecs share nothing. One instance belongs to one thread at a time; different instances need no lock.

@@ -6,8 +6,6 @@
 
 #include "core/Frame.h"
 
-#include <vector>
-
 bool PolygonAreaXml::createXmlString(const PolygonArea& area, std::string& text) const
 {
     SafePointer<DomainXmlNode> root = frame::makeNode("PolygonArealist");
@@ -23,10 +21,13 @@ bool PolygonAreaXml::createXmlString(const PolygonArea& area, std::string& text)
 bool PolygonAreaXml::parseXmlString(const std::string& text, PolygonArea& area) const
 {
     SafePointer<DomainXmlNode> root;
-    std::vector<SafePointer<DomainXmlNode>> points;
-    if (!DomainXmlNode::parse(text, "PolygonArealist", root) || !root->getAllConfigNodeList(points)) return false;
+    if (!DomainXmlNode::parse(text, "PolygonArealist", root)) return false;
 
-    for (const SafePointer<DomainXmlNode>& point : points)
+    TiXmlElement* item = frame::firstChild(root);
+    for (; item != nullptr; item = item->NextSiblingElement())
+    {
+        const SafePointer<DomainXmlNode> point = frame::nodeOf(*item);
         area.addPoint(frame::floatProperty(point, "AttrXval", 0), frame::floatProperty(point, "AttrYval", 0));
+    }
     return true;
 }

@@ -152,8 +152,12 @@ void SafePointer<T>::inc_reference() const
 {
     if (pointer_ == nullptr || count_ == nullptr) report("Already destructed 1");
     if (count_->lock() != 0) report("Already destructed 2");
-    // Raised with the record locked: it counts another object now, and this pointer dangles.
-    if (count_->getPointer() != pointer_) throw ZTRuntimeError("not valid pointer in inc_reference ");
+    if (count_->getPointer() != pointer_)
+    {
+        // This pointer dangles, and the record counts another object now. It stays locked.
+        count_->abandon();
+        throw ZTRuntimeError("not valid pointer in inc_reference ");
+    }
     if (count_->inc_reference() == 0)
     {
         count_->unLock();
@@ -168,8 +172,11 @@ void SafePointer<T>::dec_reference()
     if (pointer_ == nullptr) return;
 
     count_->lock();
-    // Raised with the record locked, as in inc_reference.
-    if (count_->getPointer() != pointer_) throw ZTRuntimeError("not valid pointer in dec_reference");
+    if (count_->getPointer() != pointer_)
+    {
+        count_->abandon();
+        throw ZTRuntimeError("not valid pointer in dec_reference");
+    }
     if (count_->dec_reference() != 0)
     {
         count_->unLock();

@@ -22,11 +22,10 @@ bool StringListXml::createXmlString(const std::vector<std::string>& list, std::s
 bool StringListXml::parseXmlString(const std::string& text, std::vector<std::string>& list) const
 {
     SafePointer<DomainXmlNode> root;
-    std::vector<SafePointer<DomainXmlNode>> items;
-    if (!DomainXmlNode::parse(text, "StringParamList", root) || !root->getConfigNodeList("StringParam", items))
-        return false;
+    if (!DomainXmlNode::parse(text, "StringParamList", root)) return false;
 
-    for (const SafePointer<DomainXmlNode>& item : items)
-        list.push_back(frame::textProperty(item, "String", ""));
+    const TiXmlElement* item = frame::firstItem(*root->getXmlNode(), "StringParam");
+    for (; item != nullptr; item = item->NextSiblingElement("StringParam"))
+        list.push_back(frame::textOf(*item, "String", ""));
     return true;
 }

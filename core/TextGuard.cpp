@@ -205,8 +205,8 @@ private:
         encoding_ = utf8 ? TIXML_ENCODING_UTF8 : TIXML_ENCODING_LEGACY;
     }
 
-    /// Passes over a start tag. Its attributes are counted by their signs of equality; quotes are met behind these
-    /// only.
+    /// Passes over a start tag. Its attributes are counted by their signs of equality, those inside a value without
+    /// quotes too; quotes are met behind these signs only.
     bool enterElement()
     {
         unsigned attributes = 0;

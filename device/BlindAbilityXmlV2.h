@@ -19,7 +19,8 @@ public:
 
     /// @name Document form on an element
     /// See IDomainXml. `createXmlNode` makes a new element each time; `getXmlNode` gives it, or the one that was set or
-    /// parsed, and null without any. It lives as long as the codec.
+    /// parsed, and null without any. One that was made or parsed lives until the next is, or until the codec dies; one
+    /// that was set is its owner's.
     /// @{
     void setBlindAbilityV2(const BlindAbilityV2& ability) { ability_ = ability; }
     BlindAbilityV2& getBlindAbilityV2() { return ability_; }

@@ -92,13 +92,13 @@ bool CameraDeviceXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node,
 bool CameraDeviceXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node,
                                          std::vector<CameraDevice>& cameras) const
 {
-    std::vector<SafePointer<DomainXmlNode>> items;
-    if (!node || !node->getAllConfigNodeList(items)) return false;
+    if (!node) return false;
 
-    for (const SafePointer<DomainXmlNode>& item : items)
+    TiXmlElement* item = frame::firstChild(node);
+    for (; item != nullptr; item = item->NextSiblingElement())
     {
         CameraDevice camera;
-        if (!parseDomainXmlNode(item, camera)) return false;
+        if (!parseDomainXmlNode(frame::nodeOf(*item), camera)) return false;
         cameras.push_back(std::move(camera));
     }
     return true;

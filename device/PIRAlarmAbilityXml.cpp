@@ -34,6 +34,7 @@ bool PIRAlarmAbilityXml::parseXmlNode()
 {
     if (element_ == nullptr)
     {
+        // Without an element there are no children to list.
         std::puts("objPIRAlarmAbilityNode->getAllConfigNodeList-------Failed");
         return false;
     }

@@ -19,7 +19,8 @@ public:
 
     /// @name Document form on an element
     /// See IDomainXml. `createXmlNode` makes a new element each time; `getXmlNode` gives it, or the one that was set,
-    /// and null without either. It lives as long as the codec.
+    /// and null without either. One that was made lives until the next is, or until the codec dies; one that was set is
+    /// its owner's.
     /// @{
     void setPIRAlarmAbility(const PIRAlarmAbility& ability) { ability_ = ability; }
     PIRAlarmAbility& getPIRAlarmAbility() { return ability_; }

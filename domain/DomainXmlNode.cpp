@@ -176,7 +176,7 @@ bool DomainXmlNode::takeTree(TiXmlElement* element, SafePointer<DomainXmlNode>& 
 
 const char* DomainXmlNode::propertyOf(const char* name) const
 {
-    return element_ != nullptr ? element_->Attribute(name) : nullptr;
+    return element_ != nullptr ? frame::attributeOf(*element_, name) : nullptr;
 }
 
 void DomainXmlNode::collectChildren(const char* name, std::vector<SafePointer<DomainXmlNode>>& children) const

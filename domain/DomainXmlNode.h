@@ -28,7 +28,8 @@ class DomainXmlNode
 public:
     /// A new node, the top of a tree of its own.
     explicit DomainXmlNode(const std::string& name);
-    /// A node for an element that somebody else owns; with null, every operation fails.
+    /// A node for an element that somebody else owns; with null, every operation fails. The element must not change
+    /// owner as long as the node lives: it may be copied into another tree, but not linked into one.
     explicit DomainXmlNode(TiXmlElement* element);
     ~DomainXmlNode();
 
@@ -93,7 +94,7 @@ public:
 
     bool getNodeName(std::string& name) const;
 
-    /// The element behind the node; valid as long as the node lives.
+    /// The element behind the node; valid as long as the node lives. Others may copy it, but not link it elsewhere.
     TiXmlElement* getXmlNode() const;
 
     /// Parses @p text into a new tree and gives its root element, the first element of the text.

@@ -1,5 +1,6 @@
 #include "domain/RefCountManager.h"
 
+#include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -17,12 +18,21 @@ ref_count::ref_count()
 
 int ref_count::lock()
 {
-    return pthread_mutex_lock(&mutex_);
+    const int error = pthread_mutex_lock(&mutex_);
+    if (error != 0 || !abandoned_) return error;
+    unLock();
+    return EOWNERDEAD;
 }
 
 void ref_count::unLock()
 {
     pthread_mutex_unlock(&mutex_);
+}
+
+void ref_count::abandon()
+{
+    abandoned_ = true;
+    unLock();
 }
 
 void* ref_count::getPointer() const
@@ -137,6 +147,7 @@ ref_count* RefCountManager::retrieveRefCount(void* object, const char* typeName)
     record->object_ = object;
     record->typeName_ = typeName;
     record->counter_ = 1;
+    record->abandoned_ = false;
     shard.chain(record);
     ++shard.records;
     return record;

@@ -5,8 +5,8 @@
 
 /// The count of one object that `SafePointer`s share.
 ///
-/// Every change is made under the record's own lock. The lock belongs to the thread that took it and reports a second
-/// lock by that thread instead of waiting for ever.
+/// The lock guards the count against the record's passing to another object; the counter is atomic besides, as the
+/// table raises it without that lock. A second lock by the thread that has it is reported instead of waiting for ever.
 class alignas(64) ref_count
 {
 public:
@@ -18,6 +18,8 @@ public:
     int lock();
     /// Releases the lock.
     void unLock();
+    /// Leaves the record locked until it is issued again: every lock from now on reports at once, on any thread.
+    void abandon();
     /// The address of the object that the record was issued for.
     void* getPointer() const;
     /// Adds one; 0 if the object is gone, and then nothing is added.
@@ -33,6 +35,7 @@ private:
     pthread_mutex_t mutex_;
     std::atomic<void*> object_{nullptr};
     mutable std::atomic<int> counter_{0};
+    std::atomic<bool> abandoned_{false};
     const char* typeName_ = nullptr;
     ref_count* next_ = nullptr;
 };

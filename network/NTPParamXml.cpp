@@ -92,13 +92,13 @@ bool NTPParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, NTP
 
 bool NTPParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, std::vector<NTPParam>& params) const
 {
-    std::vector<SafePointer<DomainXmlNode>> items;
-    if (!node || !node->getAllConfigNodeList(items)) return false;
+    if (!node) return false;
 
-    for (const SafePointer<DomainXmlNode>& item : items)
+    TiXmlElement* item = frame::firstChild(node);
+    for (; item != nullptr; item = item->NextSiblingElement())
     {
         NTPParam param;
-        if (!parseDomainXmlNode(item, param)) return false;
+        if (!parseDomainXmlNode(frame::nodeOf(*item), param)) return false;
         params.push_back(std::move(param));
     }
     return true;

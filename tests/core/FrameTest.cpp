@@ -141,4 +141,5 @@ TEST(Frame, AppendsNodesWithoutAnElementToNodesWithoutOne)
     SafePointer<DomainXmlNode> child = frame::appendNode(nothing, "Child");
     EXPECT_EQ(nullptr, child->getXmlNode());
     EXPECT_EQ(5, frame::intProperty(child, "V", 5));
+    EXPECT_EQ(nullptr, frame::firstChild(nothing));
 }

@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <new>
+#include <thread>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -286,7 +287,13 @@ TEST(SafePointer, ReportsACountThatHasBecomeAnothers)
         const std::vector<CountedPointer> objects = objectsThatTakeTheCountOf(dangling.second, deaths);
         ASSERT_FALSE(objects.empty());
 
-        // The error has left the count locked by this thread. The next lock reports that and does not hang.
+        // The error has left the count locked. The next lock reports that and does not hang, whichever thread tries.
+        std::thread(
+            [&] {
+                EXPECT_EQ(reported("Already destructed 2"),
+                          errorOf([&] { const CountedPointer copy(objects.back()); }));
+            })
+            .join();
         EXPECT_EQ(reported("Already destructed 2"), errorOf([&] { dangling.second.inc_reference(); }));
         EXPECT_EQ(reported("Already destructed 2"), errorOf([&] { const CountedPointer copy(objects.back()); }));
 

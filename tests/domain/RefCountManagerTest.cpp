@@ -122,6 +122,25 @@ TEST(RefCountManager, ReportsASecondLockByOneThread)
     RefCountManager::getInstance()->returnbackRefCount(record, "int");
 }
 
+TEST(RefCountManager, ReportsTheLockOfAnAbandonedRecordUntilItIsIssuedAgain)
+{
+    RefCountManager* manager = RefCountManager::getInstance();
+    int object = 0;
+    ref_count* record = manager->retrieveRefCount(&object, "int");
+    EXPECT_EQ(0, record->lock());
+    record->abandon();
+    EXPECT_NE(0, record->lock());
+    std::thread([&] { EXPECT_NE(0, record->lock()); }).join();
+    EXPECT_EQ(0, record->dec_reference());
+    manager->returnbackRefCount(record, "int");
+
+    ASSERT_EQ(record, manager->retrieveRefCount(&object, "int"));
+    EXPECT_EQ(0, record->lock());
+    record->unLock();
+    EXPECT_EQ(0, record->dec_reference());
+    manager->returnbackRefCount(record, "int");
+}
+
 TEST(RefCountManager, KeepsARecordUsableForTheUnlockAfterItsReturn)
 {
     RefCountManager* manager = RefCountManager::getInstance();
@@ -133,19 +152,16 @@ TEST(RefCountManager, KeepsARecordUsableForTheUnlockAfterItsReturn)
     ref_count* again = manager->retrieveRefCount(&object, "int");
     ASSERT_EQ(record, again);
 
-    // The new owner waits for the unlock of the old one.
-    std::atomic<bool> locked(false);
+    // It is still locked by this thread, and the new owner waits for the unlock.
+    EXPECT_NE(0, again->lock());
     std::thread owner(
         [&]
         {
             EXPECT_EQ(0, again->lock());
-            locked = true;
             again->unLock();
         });
-    EXPECT_FALSE(locked);
     record->unLock();
     owner.join();
-    EXPECT_TRUE(locked);
     EXPECT_EQ(0, again->dec_reference());
     manager->returnbackRefCount(again, "int");
 }

@@ -2,7 +2,9 @@
 #include "tests/support/Documents.h"
 
 #include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 #include <set>
 
 namespace
@@ -55,6 +57,19 @@ TEST(Suite, ListsEveryCodec)
     for (const char* other : {"core/IDomainXml.h", "core/XmlPrinter.h", "domain/DomainXmlNode.h"})
         EXPECT_EQ(1U, found.erase(other)) << other;
     EXPECT_EQ(found, listed);
+}
+
+TEST(Suite, BuildsATestOfEveryCodec)
+{
+    for (const CodecCase& codec : allCodecs())
+    {
+        const files::path folder = files::path(PARAMXML_SOURCES) / "tests" / codec.family;
+        const std::string test = std::string(codec.codec) + "Test.cpp";
+        EXPECT_TRUE(files::exists(folder / test)) << test;
+        std::ifstream list(folder / "CMakeLists.txt");
+        const std::string sources((std::istreambuf_iterator<char>(list)), std::istreambuf_iterator<char>());
+        EXPECT_NE(std::string::npos, sources.find(" " + test + "\n")) << test << " is not built";
+    }
 }
 
 TEST(Suite, HasAGoldenForEveryFormAndNoOther)
