@@ -142,6 +142,16 @@ std::uint32_t uint32Of(const TiXmlElement& element, const char* name, std::uint3
     return static_cast<std::uint32_t>(int64Of(element, name, missing));
 }
 
+long longOf(const TiXmlElement& element, const char* name, long missing)
+{
+    return static_cast<long>(int64Of(element, name, missing));
+}
+
+unsigned long unsignedLongOf(const TiXmlElement& element, const char* name, unsigned long missing)
+{
+    return static_cast<unsigned long>(unsignedOf(element, name, missing));
+}
+
 long long int64Of(const TiXmlElement& element, const char* name, long long missing)
 {
     const char* text = attributeOf(element, name);
@@ -152,6 +162,12 @@ unsigned long long unsignedOf(const TiXmlElement& element, const char* name, uns
 {
     const char* text = attributeOf(element, name);
     return text != nullptr ? unsignedIn(text) : missing;
+}
+
+float floatOf(const TiXmlElement& element, const char* name, float missing)
+{
+    const char* text = attributeOf(element, name);
+    return text != nullptr ? floatIn(text) : missing;
 }
 
 double doubleOf(const TiXmlElement& element, const char* name, double missing)
@@ -176,6 +192,14 @@ std::string textOf(const TiXmlElement& element, const char* name, const std::str
 {
     const char* text = attributeOf(element, name);
     return text != nullptr ? text : missing;
+}
+
+int queriedIntOf(const TiXmlElement& element, const char* name, int missing)
+{
+    const char* text = attributeOf(element, name);
+    long long value = missing;
+    if (text != nullptr) readInteger(text, value);
+    return static_cast<int>(value);
 }
 
 const TiXmlElement* firstItem(const TiXmlElement& list, const char* item)
@@ -241,6 +265,12 @@ float floatProperty(const SafePointer<DomainXmlNode>& node, const char* name, fl
 {
     const char* text = propertyOf(node, name, line);
     return text != nullptr ? floatIn(text) : missing;
+}
+
+double doubleProperty(const SafePointer<DomainXmlNode>& node, const char* name, double missing, const char* line)
+{
+    const char* text = propertyOf(node, name, line);
+    return text != nullptr ? doubleIn(text) : missing;
 }
 
 bool flagProperty(const SafePointer<DomainXmlNode>& node, const char* name, bool missing, const char* line)

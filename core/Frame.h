@@ -57,12 +57,18 @@ const char* attributeOf(const TiXmlElement& element, const char* name);
 int intOf(const TiXmlElement& element, const char* name, int missing);
 std::uint16_t uint16Of(const TiXmlElement& element, const char* name, std::uint16_t missing);
 std::uint32_t uint32Of(const TiXmlElement& element, const char* name, std::uint32_t missing);
+long longOf(const TiXmlElement& element, const char* name, long missing);
+unsigned long unsignedLongOf(const TiXmlElement& element, const char* name, unsigned long missing);
 long long int64Of(const TiXmlElement& element, const char* name, long long missing);
 unsigned long long unsignedOf(const TiXmlElement& element, const char* name, unsigned long long missing);
+float floatOf(const TiXmlElement& element, const char* name, float missing);
 double doubleOf(const TiXmlElement& element, const char* name, double missing);
 bool flagOf(const TiXmlElement& element, const char* name, bool missing);
 std::string textOf(const TiXmlElement& element, const char* name, const char* missing);
 std::string textOf(const TiXmlElement& element, const char* name, const std::string& missing);
+
+/// For the readers to whom a text that begins with no number counts as missing.
+int queriedIntOf(const TiXmlElement& element, const char* name, int missing);
 
 /// The first element named @p item below @p list; null if there is none. The walk from there takes every sibling
 /// element, whatever its name.
@@ -95,6 +101,8 @@ unsigned long long unsignedProperty(const SafePointer<DomainXmlNode>& node, cons
                                     unsigned long long missing, const char* line = nullptr);
 float floatProperty(const SafePointer<DomainXmlNode>& node, const char* name, float missing,
                     const char* line = nullptr);
+double doubleProperty(const SafePointer<DomainXmlNode>& node, const char* name, double missing,
+                      const char* line = nullptr);
 bool flagProperty(const SafePointer<DomainXmlNode>& node, const char* name, bool missing, const char* line = nullptr);
 std::string textProperty(const SafePointer<DomainXmlNode>& node, const char* name, const std::string& missing,
                          const char* line = nullptr);

@@ -32,7 +32,11 @@ TEST(Frame, NarrowsNumbersAsTheFieldsDo)
     EXPECT_EQ(4294967295U, frame::uint32Of(elementWith("4294967295"), "V", 7));
     EXPECT_EQ(-5, frame::int64Of(elementWith("-5 km"), "V", 7));
     EXPECT_EQ(18446744073709551615U, frame::unsignedOf(elementWith("18446744073709551615"), "V", 7));
+    EXPECT_EQ(-5L, frame::longOf(elementWith("-5"), "V", 7));
+    EXPECT_EQ(4294967295UL, frame::unsignedLongOf(elementWith("4294967295"), "V", 7));
     EXPECT_EQ(2.5, frame::doubleOf(elementWith("2.5"), "V", 7));
+    EXPECT_EQ(99.75F, frame::floatOf(elementWith("99.75"), "V", 7));
+    EXPECT_EQ(2.5, frame::doubleProperty(nodeWith("2.5"), "V", 7));
     EXPECT_EQ(1, frame::uint16Property(nodeWith("65537"), "V", 7));
     EXPECT_EQ(4294967295U, frame::uint32Property(nodeWith("-1"), "V", 7));
     EXPECT_EQ(18446744073709551615U, frame::unsignedProperty(nodeWith("18446744073709551615"), "V", 7));
@@ -47,10 +51,22 @@ TEST(Frame, GivesTheDefaultForWhatIsMissing)
     EXPECT_EQ(-7, frame::int64Of(empty, "V", -7));
     EXPECT_EQ(std::numeric_limits<unsigned long long>::max(),
               frame::unsignedOf(empty, "V", std::numeric_limits<unsigned long long>::max()));
+    EXPECT_EQ(-7L, frame::longOf(empty, "V", -7));
+    EXPECT_EQ(7UL, frame::unsignedLongOf(empty, "V", 7));
+    EXPECT_EQ(7.5F, frame::floatOf(empty, "V", 7.5F));
     EXPECT_EQ(7.5, frame::doubleOf(empty, "V", 7.5));
+    EXPECT_EQ(7, frame::queriedIntOf(empty, "V", 7));
     EXPECT_TRUE(frame::flagOf(empty, "V", true));
     EXPECT_EQ("x", frame::textOf(empty, "V", "x"));
     EXPECT_EQ(std::string("a\0b", 3), frame::textOf(empty, "V", std::string("a\0b", 3)));
+}
+
+TEST(Frame, TakesWhatIsNoNumberForMissingWhereAsked)
+{
+    EXPECT_EQ(7, frame::queriedIntOf(elementWith("abc"), "V", 7));
+    EXPECT_EQ(7, frame::queriedIntOf(elementWith(""), "V", 7));
+    EXPECT_EQ(12, frame::queriedIntOf(elementWith("12a"), "V", 7));
+    EXPECT_EQ(1, frame::queriedIntOf(elementWith("4294967297"), "V", 7));
 }
 
 TEST(Frame, TakesWhatIsThereForAValue)

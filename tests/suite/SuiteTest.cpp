@@ -27,6 +27,11 @@ void forAllCodecs(Action action)
     }
 }
 
+bool refusesItself(const CodecCase& codec)
+{
+    return codec.rewritten != nullptr && codec.rewritten[0] == '\0';
+}
+
 std::string rootOf(const std::string& text)
 {
     return text.substr(1, text.find_first_of(" />") - 1);
@@ -76,7 +81,10 @@ TEST(Suite, HasAGoldenForEveryFormAndNoOther)
 {
     std::set<std::string> expected;
     for (const CodecCase& codec : allCodecs())
+    {
         EXPECT_TRUE(expected.insert(codec.golden()).second) << codec.golden() << " is listed twice";
+        if (!refusesItself(codec)) expected.insert(codec.rewrittenGolden());
+    }
 
     std::set<std::string> found;
     const files::path goldens = files::path(PARAMXML_SOURCES) / "tests" / "golden";
@@ -93,8 +101,8 @@ TEST(Suite, WritesAgainWhatItReads)
         [](const CodecCase& codec, const std::string& text)
         {
             std::string rewritten;
-            EXPECT_TRUE(codec.rewrite(text, rewritten));
-            EXPECT_EQ(text, rewritten);
+            EXPECT_EQ(!refusesItself(codec), codec.rewrite(text, rewritten));
+            EXPECT_EQ(refusesItself(codec) ? "" : golden(codec.rewrittenGolden()), rewritten);
         });
 }
 
@@ -144,7 +152,8 @@ TEST(Suite, RefusesATextThatIsTooDeep)
         });
 }
 
-// A text of which one byte has changed is refused, or read as a record; and what is written of that record is stable.
+// A text of which one byte has changed is refused, or read as a record; and what is written of that record is stable,
+// if the form reads all that it writes.
 TEST(Suite, SurvivesEveryChangedByte)
 {
     static const std::string replacements("\0<>\"'&/= 0x-\x7F\x80\xC3\xE0\xF0\xFF", 18);
@@ -158,7 +167,7 @@ TEST(Suite, SurvivesEveryChangedByte)
                     std::string changed = text;
                     changed[place] = replacement;
                     std::string once;
-                    if (!codec.rewrite(changed, once)) continue;
+                    if (!codec.rewrite(changed, once) || codec.rewritten != nullptr) continue;
                     std::string twice;
                     ASSERT_TRUE(codec.rewrite(once, twice)) << changed;
                     ASSERT_EQ(once, twice) << changed;

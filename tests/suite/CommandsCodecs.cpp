@@ -1,0 +1,67 @@
+#include "tests/suite/Codecs.h"
+
+#include "commands/AlarmChannelCloseXml.h"
+#include "commands/AlarmChannelRequestXml.h"
+#include "commands/AlarmChannelResponseXml.h"
+#include "commands/AudioStreamCloseXml.h"
+#include "commands/AudioStreamRequestXml.h"
+#include "commands/ChangeAVStreamXml.h"
+#include "commands/DataChannelRequestXml.h"
+#include "commands/DataChannelResponseXml.h"
+#include "commands/DecoderCloseXml.h"
+#include "commands/DecoderRequestXml.h"
+#include "commands/DecoderResponseXml.h"
+#include "commands/DecoderWindowModeXml.h"
+#include "commands/InterPhoneCloseXml.h"
+#include "commands/InterPhoneRequestXml.h"
+#include "commands/InterPhoneResponseXml.h"
+#include "commands/MakeKeyFrameXml.h"
+#include "commands/MicrophoneCloseXml.h"
+#include "commands/MicrophoneRequestXml.h"
+#include "commands/MicrophoneResponseXml.h"
+#include "commands/PTZChannelCloseXml.h"
+#include "commands/PTZChannelRequestXml.h"
+#include "commands/PTZChannelResponseXml.h"
+#include "commands/RS485ChannelCloseXml.h"
+#include "commands/RS485ChannelResponseXml.h"
+#include "commands/RS485DataXml.h"
+#include "commands/VideoStreamCloseXml.h"
+#include "commands/VideoStreamCtrlXml.h"
+#include "commands/VideoStreamRequestXml.h"
+#include "tests/suite/Rewrite.h"
+
+std::vector<CodecCase> commandsCodecs()
+{
+    return {
+        // clang-format off
+        {"commands", "AlarmChannelCloseXml", "document", rewriteDocument<AlarmChannelCloseXml>},
+        {"commands", "AlarmChannelRequestXml", "document", rewriteDocument<AlarmChannelRequestXml>},
+        {"commands", "AlarmChannelResponseXml", "document", rewriteDocument<AlarmChannelResponseXml>},
+        {"commands", "AudioStreamCloseXml", "document", rewriteDocument<AudioStreamCloseXml>},
+        {"commands", "AudioStreamRequestXml", "document", rewriteDocument<AudioStreamRequestXml>},
+        {"commands", "ChangeAVStreamXml", "document", rewriteDocument<ChangeAVStreamXml>},
+        {"commands", "DataChannelRequestXml", "document", rewriteDocument<DataChannelRequestXml>},
+        {"commands", "DataChannelResponseXml", "document", rewriteDocument<DataChannelResponseXml>},
+        {"commands", "DecoderCloseXml", "document", rewriteDocument<DecoderCloseXml>},
+        {"commands", "DecoderRequestXml", "document", rewriteDocument<DecoderRequestXml>},
+        {"commands", "DecoderResponseXml", "document", rewriteDocument<DecoderResponseXml>},
+        {"commands", "DecoderWindowModeXml", "document", rewriteDocument<DecoderWindowModeXml>},
+        {"commands", "InterPhoneCloseXml", "document", rewriteDocument<InterPhoneCloseXml>},
+        {"commands", "InterPhoneRequestXml", "document", rewriteDocument<InterPhoneRequestXml>},
+        {"commands", "InterPhoneResponseXml", "document", rewriteDocument<InterPhoneResponseXml>},
+        {"commands", "MakeKeyFrameXml", "document", rewriteDocument<MakeKeyFrameXml>},
+        {"commands", "MicrophoneCloseXml", "document", rewriteDocument<MicrophoneCloseXml>},
+        {"commands", "MicrophoneRequestXml", "document", rewriteDocument<MicrophoneRequestXml>},
+        {"commands", "MicrophoneResponseXml", "document", rewriteDocument<MicrophoneResponseXml>},
+        {"commands", "PTZChannelCloseXml", "document", rewriteDocument<PTZChannelCloseXml>},
+        {"commands", "PTZChannelRequestXml", "document", rewriteDocument<PTZChannelRequestXml>},
+        {"commands", "PTZChannelResponseXml", "document", rewriteDocument<PTZChannelResponseXml>},
+        {"commands", "RS485ChannelCloseXml", "document", rewriteDocument<RS485ChannelCloseXml>},
+        {"commands", "RS485ChannelResponseXml", "document", rewriteDocument<RS485ChannelResponseXml>},
+        {"commands", "RS485DataXml", "document", rewriteDocument<RS485DataXml>},
+        {"commands", "VideoStreamCloseXml", "document", rewriteDocument<VideoStreamCloseXml>},
+        {"commands", "VideoStreamCtrlXml", "document", rewriteDocument<VideoStreamCtrlXml>},
+        {"commands", "VideoStreamRequestXml", "document", rewriteDocument<VideoStreamRequestXml>},
+        // clang-format on
+    };
+}

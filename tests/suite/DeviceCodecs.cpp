@@ -1,0 +1,23 @@
+#include "tests/suite/Codecs.h"
+
+#include "device/BlindAbilityXmlV2.h"
+#include "device/CameraDeviceXml.h"
+#include "device/DeviceBaseInfoListXml.h"
+#include "device/DeviceBaseInfoXml.h"
+#include "device/PIRAlarmAbilityXml.h"
+#include "tests/suite/Rewrite.h"
+
+std::vector<CodecCase> deviceCodecs()
+{
+    return {
+        // clang-format off
+        {"device", "BlindAbilityXmlV2", "document", rewriteBackedDocument<BlindAbilityXmlV2>},
+        {"device", "CameraDeviceXml", "document", rewriteDocument<CameraDeviceXml>},
+        {"device", "CameraDeviceXml", "node", rewriteText<CameraDeviceXml, CameraDevice>},
+        {"device", "CameraDeviceXml", "list", rewriteText<CameraDeviceXml, std::vector<CameraDevice>>},
+        {"device", "DeviceBaseInfoListXml", "document", rewriteDocument<DeviceBaseInfoListXml>},
+        {"device", "DeviceBaseInfoXml", "document", rewriteDocument<DeviceBaseInfoXml>},
+        {"device", "PIRAlarmAbilityXml", "element", rewriteBackedElement<PIRAlarmAbilityXml>},
+        // clang-format on
+    };
+}

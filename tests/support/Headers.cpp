@@ -1,0 +1,1 @@
+// The headers that the build names, compiled ahead for all tests.
