@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <regex>
 
 namespace
 {
@@ -30,7 +31,15 @@ testing::AssertionResult matchesGolden(const std::string& text, const std::strin
     }
     const std::string expected = golden(name);
     if (text == expected) return testing::AssertionSuccess();
-    return testing::AssertionFailure() << name << " is\n" << expected << "but this was written:\n" << text;
+    return testing::AssertionFailure() << name << " is\n"
+                                       << printable(expected) << "but this was written:\n"
+                                       << printable(text);
+}
+
+std::string printable(const std::string& text)
+{
+    static const std::regex password("(pass-?word=)(\"[^\"]*\"?|'[^']*'?)", std::regex::icase);
+    return std::regex_replace(text, password, "$1...");
 }
 
 CapturedOutput::CapturedOutput()

@@ -7,8 +7,11 @@
 std::string golden(const std::string& name);
 
 /// Whether @p text is, byte for byte, that of tests/golden/@p name. With PARAMXML_REGENERATE in the environment the
-/// file is written instead, and the test fails all the same.
+/// file is written instead, and the test fails all the same. A failure shows both texts, without their passwords.
 testing::AssertionResult matchesGolden(const std::string& text, const std::string& name);
+
+/// @p text without its passwords: what a test may print of a document.
+std::string printable(const std::string& text);
 
 /// Everything that is written to standard output while this object lives.
 class CapturedOutput
