@@ -52,8 +52,8 @@ std::vector<CodecCase> coreCodecs()
         {"core", "LineCrossXml", "node", rewriteText<LineCrossXml, LineCross>},
         {"core", "PolygonAreaXml", "list", rewriteText<PolygonAreaXml, PolygonArea>},
         {"core", "StringListXml", "list", rewriteText<StringListXml, std::vector<std::string>>},
-        {"core", "TimeStructXml", "element", rewriteTimes},
         {"core", "TimeStructXml", "node", rewriteText<TimeStructXml, TimeStruct>},
+        {"core", "TimeStructXml", "element", rewriteTimes},
         {"core", "VersionXml", "document", rewriteDocument<VersionXml>},
         // clang-format on
     };
