@@ -1,6 +1,7 @@
 #include "tests/suite/Codecs.h"
 #include "tests/support/Documents.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -154,19 +155,20 @@ TEST(Suite, RefusesATextThatIsTooDeep)
 }
 
 // A text of which one byte has changed is refused, or read as a record; and what is written of that record is stable,
-// if the form reads all that it writes.
+// if the form reads all that it writes. A long text tries some of the replacements at each place, in turn.
 TEST(Suite, SurvivesEveryChangedByte)
 {
     static const std::string replacements("\0<>\"'&/= 0x-\x7F\x80\xC3\xE0\xF0\xFF", 18);
     forAllCodecs(
         [](const CodecCase& codec, const std::string& text)
         {
+            const std::size_t step = std::min(1 + text.size() / 512, replacements.size());
             for (std::size_t place = 0; place < text.size(); ++place)
             {
-                for (const char replacement : replacements)
+                for (std::size_t number = place % step; number < replacements.size(); number += step)
                 {
                     std::string changed = text;
-                    changed[place] = replacement;
+                    changed[place] = replacements[number];
                     std::string once;
                     if (!codec.rewrite(changed, once) || codec.rewritten != nullptr) continue;
                     std::string twice;
@@ -185,14 +187,11 @@ TEST(Suite, SurvivesLeadBytesInUtf8)
         {
             for (std::size_t place = 0; place < text.size(); ++place)
             {
-                for (const char replacement : {'\xC3', '\xE0', '\xF0'})
-                {
-                    std::string changed = "\xEF\xBB\xBF" + text;
-                    changed[place + 3] = replacement;
-                    std::string rewritten;
-                    codec.rewrite(changed, rewritten);
-                    codec.rewrite(changed.substr(0, place + 4), rewritten);
-                }
+                std::string changed = "\xEF\xBB\xBF" + text;
+                changed[place + 3] = "\xC3\xE0\xF0"[place % 3];
+                std::string rewritten;
+                codec.rewrite(changed, rewritten);
+                codec.rewrite(changed.substr(0, place + 4), rewritten);
             }
         });
 }
