@@ -1,12 +1,16 @@
 #pragma once
 
 /// @file
-/// The records of alarms.
+/// The records of alarms: actions, schedules, policies, and what devices report.
 ///
 /// Records are values: copyable, and 0, empty or false in every field when new. They are not locked.
 
 #include "domain/CoreRecords.h"
+#include "domain/MediaRecords.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <string>
 #include <vector>
 
 /// A rectangle on a picture.
@@ -143,4 +147,100 @@ public:
 private:
     std::vector<AlarmDetailTarget> alarmTarget_;
     std::vector<AlarmDetailEvent> alarmEvent_;
+};
+
+/// A span of a day, as the services count time.
+class ScheduleTime
+{
+public:
+    /// When it begins.
+    long getStartTime() const { return startTime_; }
+    void setStartTime(long startTime) { startTime_ = startTime; }
+
+    /// When it ends.
+    long getEndTime() const { return endTime_; }
+    void setEndTime(long endTime) { endTime_ = endTime; }
+
+private:
+    long startTime_ = 0;
+    long endTime_ = 0;
+};
+
+/// An absolute span of time, as the services count it.
+class ScheduleTimeSegment
+{
+public:
+    /// When it begins.
+    unsigned long getBeginTime() const { return beginTime_; }
+    void setBeginTime(unsigned long beginTime) { beginTime_ = beginTime; }
+
+    /// When it ends.
+    unsigned long getEndTime() const { return endTime_; }
+    void setEndTime(unsigned long endTime) { endTime_ = endTime; }
+
+private:
+    unsigned long beginTime_ = 0;
+    unsigned long endTime_ = 0;
+};
+
+/// One day of a weekly schedule.
+class ScheduleWeek
+{
+public:
+    /// The day of the week, as the services number it.
+    int getWeekDay() const { return weekDay_; }
+    void setWeekDay(int weekDay) { weekDay_ = weekDay; }
+
+    /// The spans of that day.
+    /// @{
+    const std::vector<ScheduleTime>& getScheduleTimeList() const { return scheduleTimeList_; }
+    std::vector<ScheduleTime>& getScheduleTimeList() { return scheduleTimeList_; }
+    void setScheduleTimeList(const std::vector<ScheduleTime>& scheduleTimeList)
+    {
+        scheduleTimeList_ = scheduleTimeList;
+    }
+    /// @}
+
+private:
+    int weekDay_ = 0;
+    std::vector<ScheduleTime> scheduleTimeList_;
+};
+
+/// The schedule of one camera. Its two lists are independent, and either may be empty.
+class ScheduleTimeParam
+{
+public:
+    /// The device.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// The days of the week.
+    /// @{
+    const std::vector<ScheduleWeek>& getScheduleWeekList() const { return scheduleWeekList_; }
+    std::vector<ScheduleWeek>& getScheduleWeekList() { return scheduleWeekList_; }
+    void setScheduleWeekList(const std::vector<ScheduleWeek>& scheduleWeekList)
+    {
+        scheduleWeekList_ = scheduleWeekList;
+    }
+    /// @}
+
+    /// The absolute spans.
+    /// @{
+    const std::vector<ScheduleTimeSegment>& getScheduleTimeSegmentList() const { return scheduleTimeSegmentList_; }
+    std::vector<ScheduleTimeSegment>& getScheduleTimeSegmentList() { return scheduleTimeSegmentList_; }
+    void setScheduleTimeSegmentList(const std::vector<ScheduleTimeSegment>& scheduleTimeSegmentList)
+    {
+        scheduleTimeSegmentList_ = scheduleTimeSegmentList;
+    }
+    /// @}
+
+private:
+    std::string deviceId_;
+    int cameraId_ = 0;
+    std::vector<ScheduleWeek> scheduleWeekList_;
+    std::vector<ScheduleTimeSegment> scheduleTimeSegmentList_;
 };
