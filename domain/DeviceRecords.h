@@ -257,3 +257,20 @@ private:
     std::vector<int> alphaList_;
     std::vector<MosaicParam> mosaicParamList_;
 };
+
+/// One camera among those of several devices.
+class CameraInfo
+{
+public:
+    /// The identity of the device that the camera belongs to.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// The camera's number on that device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+private:
+    std::string deviceId_;
+    int cameraId_ = 0;
+};

@@ -2,6 +2,7 @@
 
 #include "device/BlindAbilityXmlV2.h"
 #include "device/CameraDeviceXml.h"
+#include "device/CameraInfoXml.h"
 #include "device/DeviceBaseInfoListXml.h"
 #include "device/DeviceBaseInfoXml.h"
 #include "device/PIRAlarmAbilityXml.h"
@@ -15,6 +16,8 @@ std::vector<CodecCase> deviceCodecs()
         {"device", "CameraDeviceXml", "document", rewriteDocument<CameraDeviceXml>},
         {"device", "CameraDeviceXml", "node", rewriteText<CameraDeviceXml, CameraDevice>},
         {"device", "CameraDeviceXml", "list", rewriteText<CameraDeviceXml, std::vector<CameraDevice>>},
+        {"device", "CameraInfoXml", "node", rewriteText<CameraInfoXml, CameraInfo>},
+        {"device", "CameraInfoXml", "list", rewriteText<CameraInfoXml, std::vector<CameraInfo>>},
         {"device", "DeviceBaseInfoListXml", "document", rewriteDocument<DeviceBaseInfoListXml>},
         {"device", "DeviceBaseInfoXml", "document", rewriteDocument<DeviceBaseInfoXml>},
         {"device", "PIRAlarmAbilityXml", "element", rewriteBackedElement<PIRAlarmAbilityXml>},
