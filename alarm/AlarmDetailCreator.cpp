@@ -15,7 +15,8 @@
 
 #include "alarm/AlarmDetailCreator.h"
 
-#include <cmath>
+#include "core/Conversions.h"
+
 #include <cstdint>
 #include <limits>
 #include <utility>
@@ -39,16 +40,6 @@ constexpr std::size_t eventSize = 11;  // without its points and targets
 constexpr std::size_t pointSize = 2;
 constexpr std::size_t numberSize = 4;
 
-/// @p value without its fraction, or the nearest that @p Integer holds; 0 for what is no number.
-template <class Integer>
-Integer truncated(float value)
-{
-    using Limits = std::numeric_limits<Integer>;
-    if (value >= static_cast<float>(Limits::max())) return Limits::max();
-    if (value <= static_cast<float>(Limits::min())) return Limits::min();
-    return std::isnan(value) ? 0 : static_cast<Integer>(value);
-}
-
 /// Puts numbers one behind the other, each cut to its place.
 class Writer
 {
@@ -70,14 +61,14 @@ public:
     {
         // As peers calculate it, 1.05 is 1 and 4: the product is no wider than 32 bits, on any processor.
         const volatile float hundredfold = value * 100.0F;
-        byte(static_cast<std::uint32_t>(truncated<std::int32_t>(value)));
-        byte(static_cast<std::uint32_t>(truncated<std::int32_t>(hundredfold) % 100));
+        byte(static_cast<std::uint32_t>(frame::intFrom(value)));
+        byte(static_cast<std::uint32_t>(frame::intFrom(hundredfold) % 100));
     }
 
     void point(const ZTPoint& point)
     {
-        byte(truncated<std::uint32_t>(point.getX()));
-        byte(truncated<std::uint32_t>(point.getY()));
+        byte(frame::unsignedFrom(point.getX()));
+        byte(frame::unsignedFrom(point.getY()));
     }
 
     void points(const std::vector<ZTPoint>& points)

@@ -1,6 +1,7 @@
 #include "core/Conversions.h"
 
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -19,6 +20,16 @@ locale_t wireLocale()
 {
     static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
     return locale;
+}
+
+template <class Integer>
+Integer truncated(float value)
+{
+    using Limits = std::numeric_limits<Integer>;
+    // The highest in range is no float: it becomes the first value above the range.
+    if (value >= static_cast<float>(Limits::max())) return Limits::max();
+    if (value <= static_cast<float>(Limits::min())) return Limits::min();
+    return std::isnan(value) ? 0 : static_cast<Integer>(value);
 }
 
 } // namespace
@@ -124,6 +135,16 @@ long long wholeNumberIn(const char* text)
     if (number >= 9223372036854775808.0) return std::numeric_limits<long long>::max();
     if (number < -9223372036854775808.0) return std::numeric_limits<long long>::min();
     return static_cast<long long>(number);
+}
+
+int intFrom(float value)
+{
+    return truncated<int>(value);
+}
+
+unsigned unsignedFrom(float value)
+{
+    return truncated<unsigned>(value);
 }
 
 } // namespace frame

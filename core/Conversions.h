@@ -46,4 +46,10 @@ bool flagIn(const char* text);
 /// end of it, and what is no number gives 0.
 long long wholeNumberIn(const char* text);
 
+/// @p value without its fraction; what is out of range gives the nearest end of it, and what is no number gives 0.
+/// @{
+int intFrom(float value);
+unsigned unsignedFrom(float value);
+/// @}
+
 } // namespace frame

@@ -8,24 +8,34 @@ LineCrossXml::LineCrossXml() = default;
 
 LineCrossXml::~LineCrossXml() = default;
 
+TiXmlElement& LineCrossXml::writeElement(TiXmlNode& parent, const LineCross& line)
+{
+    TiXmlElement& element = frame::appendElement(parent, "LineCross");
+    frame::setFloat(element, "LineCrossStartX", line.getLineCrossStartX());
+    frame::setFloat(element, "LineCrossStartY", line.getLineCrossStartY());
+    frame::setFloat(element, "LineCrossEndX", line.getLineCrossEndX());
+    frame::setFloat(element, "LineCrossEndY", line.getLineCrossEndY());
+    return element;
+}
+
+bool LineCrossXml::readElement(const TiXmlElement& element, LineCross& line)
+{
+    line.setLineCrossStartX(frame::floatOf(element, "LineCrossStartX", line.getLineCrossStartX()));
+    line.setLineCrossStartY(frame::floatOf(element, "LineCrossStartY", line.getLineCrossStartY()));
+    line.setLineCrossEndX(frame::floatOf(element, "LineCrossEndX", line.getLineCrossEndX()));
+    line.setLineCrossEndY(frame::floatOf(element, "LineCrossEndY", line.getLineCrossEndY()));
+    return true;
+}
+
 bool LineCrossXml::createXmlString(const LineCross& line, std::string& text) const
 {
-    SafePointer<DomainXmlNode> node = frame::makeNode("LineCross");
-    node->setProperty("LineCrossStartX", line.getLineCrossStartX());
-    node->setProperty("LineCrossStartY", line.getLineCrossStartY());
-    node->setProperty("LineCrossEndX", line.getLineCrossEndX());
-    node->setProperty("LineCrossEndY", line.getLineCrossEndY());
-    return DomainXmlNode::toString(node, text);
+    TiXmlDocument document;
+    frame::print(writeElement(document, line), text);
+    return true;
 }
 
 bool LineCrossXml::parseXmlString(const std::string& text, LineCross& line) const
 {
     SafePointer<DomainXmlNode> node;
-    if (!DomainXmlNode::parse(text, "LineCross", node)) return false;
-
-    line.setLineCrossStartX(frame::floatProperty(node, "LineCrossStartX", line.getLineCrossStartX()));
-    line.setLineCrossStartY(frame::floatProperty(node, "LineCrossStartY", line.getLineCrossStartY()));
-    line.setLineCrossEndX(frame::floatProperty(node, "LineCrossEndX", line.getLineCrossEndX()));
-    line.setLineCrossEndY(frame::floatProperty(node, "LineCrossEndY", line.getLineCrossEndY()));
-    return true;
+    return DomainXmlNode::parse(text, "LineCross", node) && readElement(*node->getXmlNode(), line);
 }

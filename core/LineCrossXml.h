@@ -3,6 +3,7 @@
 #include "domain/CoreRecords.h"
 
 #include <string>
+#include <tinyxml.h>
 
 /// A line that objects may cross: the "LineCross" document.
 ///
@@ -15,4 +16,11 @@ public:
 
     bool createXmlString(const LineCross& line, std::string& text) const;
     bool parseXmlString(const std::string& text, LineCross& line) const;
+
+    /// @name Elements
+    /// For the documents that hold a line.
+    /// @{
+    static TiXmlElement& writeElement(TiXmlNode& parent, const LineCross& line);
+    static bool readElement(const TiXmlElement& element, LineCross& line);
+    /// @}
 };

@@ -6,28 +6,35 @@
 
 #include "core/Frame.h"
 
-bool PolygonAreaXml::createXmlString(const PolygonArea& area, std::string& text) const
+TiXmlElement& PolygonAreaXml::writeElement(TiXmlNode& parent, const PolygonArea& area)
 {
-    SafePointer<DomainXmlNode> root = frame::makeNode("PolygonArealist");
+    TiXmlElement& element = frame::appendElement(parent, "PolygonArealist");
     for (const ZTPoint& point : area.getVecPoints())
     {
-        SafePointer<DomainXmlNode> node = frame::appendNode(root, "ZTPoint");
-        node->setProperty("AttrXval", point.getX());
-        node->setProperty("AttrYval", point.getY());
+        TiXmlElement& item = frame::appendElement(element, "ZTPoint");
+        frame::setFloat(item, "AttrXval", point.getX());
+        frame::setFloat(item, "AttrYval", point.getY());
     }
-    return DomainXmlNode::toString(root, text);
+    return element;
+}
+
+bool PolygonAreaXml::readElement(const TiXmlElement& element, PolygonArea& area)
+{
+    const TiXmlElement* item = element.FirstChildElement();
+    for (; item != nullptr; item = item->NextSiblingElement())
+        area.addPoint(frame::floatOf(*item, "AttrXval", 0), frame::floatOf(*item, "AttrYval", 0));
+    return true;
+}
+
+bool PolygonAreaXml::createXmlString(const PolygonArea& area, std::string& text) const
+{
+    TiXmlDocument document;
+    frame::print(writeElement(document, area), text);
+    return true;
 }
 
 bool PolygonAreaXml::parseXmlString(const std::string& text, PolygonArea& area) const
 {
-    SafePointer<DomainXmlNode> root;
-    if (!DomainXmlNode::parse(text, "PolygonArealist", root)) return false;
-
-    TiXmlElement* item = frame::firstChild(root);
-    for (; item != nullptr; item = item->NextSiblingElement())
-    {
-        const SafePointer<DomainXmlNode> point = frame::nodeOf(*item);
-        area.addPoint(frame::floatProperty(point, "AttrXval", 0), frame::floatProperty(point, "AttrYval", 0));
-    }
-    return true;
+    SafePointer<DomainXmlNode> node;
+    return DomainXmlNode::parse(text, "PolygonArealist", node) && readElement(*node->getXmlNode(), area);
 }

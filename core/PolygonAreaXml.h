@@ -3,6 +3,7 @@
 #include "domain/CoreRecords.h"
 
 #include <string>
+#include <tinyxml.h>
 
 /// An area by the points of its outline: the "PolygonArealist" document.
 ///
@@ -13,4 +14,11 @@ class PolygonAreaXml
 public:
     bool createXmlString(const PolygonArea& area, std::string& text) const;
     bool parseXmlString(const std::string& text, PolygonArea& area) const;
+
+    /// @name Elements
+    /// For the documents that hold an area.
+    /// @{
+    static TiXmlElement& writeElement(TiXmlNode& parent, const PolygonArea& area);
+    static bool readElement(const TiXmlElement& element, PolygonArea& area);
+    /// @}
 };

@@ -131,3 +131,19 @@ TEST(Conversions, ReadWholeNumbersByWayOfADouble)
     EXPECT_EQ(std::numeric_limits<long long>::min(), frame::wholeNumberIn("-inf"));
     EXPECT_EQ(std::numeric_limits<long long>::min(), frame::wholeNumberIn("-9223372036854775808"));
 }
+
+TEST(Conversions, TakesWhatAnIntegerHoldsOfAFloat)
+{
+    using Limits = std::numeric_limits<float>;
+    EXPECT_EQ(45, frame::intFrom(45.9F));
+    EXPECT_EQ(-45, frame::intFrom(-45.9F));
+    EXPECT_EQ(std::numeric_limits<int>::max(), frame::intFrom(2147483648.0F));
+    EXPECT_EQ(2147483520, frame::intFrom(2147483520.0F));
+    EXPECT_EQ(std::numeric_limits<int>::min(), frame::intFrom(-Limits::infinity()));
+    EXPECT_EQ(0, frame::intFrom(Limits::quiet_NaN()));
+    EXPECT_EQ(12U, frame::unsignedFrom(12.9F));
+    EXPECT_EQ(0U, frame::unsignedFrom(-3.0F));
+    EXPECT_EQ(4294967040U, frame::unsignedFrom(4294967040.0F));
+    EXPECT_EQ(std::numeric_limits<unsigned>::max(), frame::unsignedFrom(Limits::infinity()));
+    EXPECT_EQ(0U, frame::unsignedFrom(Limits::quiet_NaN()));
+}
