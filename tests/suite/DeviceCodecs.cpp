@@ -1,26 +1,91 @@
 #include "tests/suite/Codecs.h"
 
+#include "device/AlarmInStatisticXml.h"
+#include "device/AlarmOutStatisticXml.h"
 #include "device/BlindAbilityXmlV2.h"
 #include "device/CameraDeviceXml.h"
 #include "device/CameraInfoXml.h"
+#include "device/CpuStatisticXml.h"
 #include "device/DeviceBaseInfoListXml.h"
 #include "device/DeviceBaseInfoXml.h"
+#include "device/DeviceConfigureXml.h"
+#include "device/DeviceMcuInfoXml.h"
+#include "device/DeviceNodeInfoXml.h"
+#include "device/DeviceParamXml.h"
+#include "device/DevicePortXml.h"
+#include "device/DeviceProductInfoXml.h"
+#include "device/DeviceResetCommandV2Xml.h"
+#include "device/DeviceSummaryInfoXml.h"
+#include "device/DeviceTypeXml.h"
+#include "device/DeviceWorkStateXml.h"
+#include "device/DiskStatisticXml.h"
+#include "device/ManualRecordStatusXml.h"
+#include "device/MemStatisticXml.h"
 #include "device/PIRAlarmAbilityXml.h"
+#include "device/RecordStateXml.h"
+#include "device/ServerParameterXml.h"
+#include "device/SnapshotStatusXml.h"
+#include "device/SpecialCustomXml.h"
+#include "device/SystemServiceInfoXml.h"
+#include "device/VideoChannelStatisticXml.h"
 #include "tests/suite/Rewrite.h"
+
+namespace
+{
+
+bool rewriteConfigure(const std::string& text, std::string& rewritten)
+{
+    DeviceConfigureXml codec;
+    return codec.parseXmlString(text) && codec.createXmlString(rewritten);
+}
+
+bool rewriteNodeInfos(const std::string& text, std::string& rewritten)
+{
+    SafePointer<DomainXmlNode> parsed;
+    SafePointer<DomainXmlNode> written(new DomainXmlNode("Parent"));
+    std::vector<DeviceNodeInfo> infos;
+    return DomainXmlNode::parse(text, parsed) && DeviceNodeInfoXml().parseDomainXmlNode(parsed, infos) &&
+           DeviceNodeInfoXml().createDomainXmlNode(infos, written) && DomainXmlNode::toString(written, rewritten);
+}
+
+} // namespace
 
 std::vector<CodecCase> deviceCodecs()
 {
     return {
         // clang-format off
+        {"device", "AlarmInStatisticXml", "document", rewriteDocument<AlarmInStatisticXml>},
+        {"device", "AlarmOutStatisticXml", "document", rewriteDocument<AlarmOutStatisticXml>},
         {"device", "BlindAbilityXmlV2", "document", rewriteBackedDocument<BlindAbilityXmlV2>},
         {"device", "CameraDeviceXml", "document", rewriteDocument<CameraDeviceXml>},
         {"device", "CameraDeviceXml", "node", rewriteText<CameraDeviceXml, CameraDevice>},
         {"device", "CameraDeviceXml", "list", rewriteText<CameraDeviceXml, std::vector<CameraDevice>>},
         {"device", "CameraInfoXml", "node", rewriteText<CameraInfoXml, CameraInfo>},
         {"device", "CameraInfoXml", "list", rewriteText<CameraInfoXml, std::vector<CameraInfo>>},
+        {"device", "CpuStatisticXml", "document", rewriteDocument<CpuStatisticXml>},
         {"device", "DeviceBaseInfoListXml", "document", rewriteDocument<DeviceBaseInfoListXml>},
         {"device", "DeviceBaseInfoXml", "document", rewriteDocument<DeviceBaseInfoXml>},
+        {"device", "DeviceConfigureXml", "document", rewriteConfigure},
+        {"device", "DeviceMcuInfoXml", "node", rewriteText<DeviceMcuInfoXml, DeviceMcuInfo>},
+        {"device", "DeviceNodeInfoXml", "list", rewriteNodeInfos, ""},
+        {"device", "DeviceParamXml", "document", rewriteDocument<DeviceParamXml>},
+        {"device", "DevicePortXml", "node", rewriteText<DevicePortXml, DevicePort>},
+        {"device", "DeviceProductInfoXml", "list", rewriteText<DeviceProductInfoXml, std::vector<DeviceProductInfo>>},
+        {"device", "DeviceResetCommandV2Xml", "list", rewriteText<DeviceResetCommandV2Xml, std::vector<int>>},
+        {"device", "DeviceSummaryInfoXml", "document", rewriteDocument<DeviceSummaryInfoXml>},
+        {"device", "DeviceTypeXml", "document", rewriteDocument<DeviceTypeXml>},
+        {"device", "DeviceTypeXml", "node", rewriteText<DeviceTypeXml, DeviceType>},
+        {"device", "DeviceWorkStateXml", "document", rewriteDocument<DeviceWorkStateXml>},
+        {"device", "DiskStatisticXml", "document", rewriteDocument<DiskStatisticXml>},
+        {"device", "ManualRecordStatusXml", "document", rewriteDocument<ManualRecordStatusXml>},
+        {"device", "MemStatisticXml", "document", rewriteDocument<MemStatisticXml>},
         {"device", "PIRAlarmAbilityXml", "element", rewriteBackedElement<PIRAlarmAbilityXml>},
+        {"device", "RecordStateXml", "document", rewriteDocument<RecordStateXml>},
+        {"device", "ServerParameterXml", "node", rewriteText<ServerParameterXml, ServerParameter>},
+        {"device", "SnapshotStatusXml", "document", rewriteDocument<SnapshotStatusXml>},
+        {"device", "SpecialCustomXml", "node", rewriteText<SpecialCustomXml, SpecialCustom>},
+        {"device", "SystemServiceInfoXml", "node", rewriteText<SystemServiceInfoXml, SystemServiceInfo>},
+        {"device", "VideoChannelStatisticXml", "document", rewriteDocument<VideoChannelStatisticXml>},
         // clang-format on
     };
 }

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/IDomainXml.h"
+#include "domain/DeviceRecords.h"
+
+#include <string>
+#include <tinyxml.h>
+#include <vector>
+
+/// Which cameras record on demand: the "ManualRecordStatusList" document.
+///
+/// The reader appends to the list and passes over items of other names. An attribute that is missing, or is no number,
+/// gives 0.
+class ManualRecordStatusXml : public IDomainXml
+{
+public:
+    ManualRecordStatusXml();
+    ~ManualRecordStatusXml() override;
+
+    /// @name Document form
+    /// See IDomainXml.
+    /// @{
+    void setManualRecordStatusList(const std::vector<ManualRecordStatus>& statuses) { statuses_ = statuses; }
+    std::vector<ManualRecordStatus>& getManualRecordStatusList() { return statuses_; }
+    void createXmlNode();
+    bool createXmlString();
+    bool parseXmlString();
+    bool parseXmlNode();
+    void setXmlString(const std::string& text) { text_ = text; }
+    std::string& getXmlString() { return text_; }
+    void setXmlNode(TiXmlNode* node) { node_ = node; }
+    TiXmlNode* getXmlNode() { return &document_; }
+
+    static TiXmlElement& writeElement(TiXmlNode& parent, const std::vector<ManualRecordStatus>& statuses);
+    static bool readElement(const TiXmlElement& element, std::vector<ManualRecordStatus>& statuses);
+    /// @}
+
+private:
+    std::vector<ManualRecordStatus> statuses_;
+    std::string text_;
+    TiXmlNode* node_ = nullptr;
+    TiXmlDocument document_;
+};
