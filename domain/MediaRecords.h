@@ -5,6 +5,8 @@
 ///
 /// Records are values: copyable, and 0, empty or false in every field when new. They are not locked.
 
+#include "domain/CoreRecords.h"
+
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -622,4 +624,466 @@ public:
 private:
     std::string paramType_;
     std::vector<UserDefineParamItem> paramItemList_;
+};
+
+/// A text on the picture, at a position in fractions.
+class OSDInfoEx
+{
+public:
+    /// What the text shows, as the device numbers it.
+    int getOSDType() const { return osdType_; }
+    void setOSDType(int osdType) { osdType_ = osdType; }
+
+    /// Whether it is drawn.
+    bool getOSDEnableFlag() const { return osdEnableFlag_; }
+    void setOSDEnableFlag(bool osdEnableFlag) { osdEnableFlag_ = osdEnableFlag; }
+
+    /// Its upper left corner, across.
+    float getX() const { return x_; }
+    void setX(float x) { x_ = x; }
+
+    /// Its upper left corner, down.
+    float getY() const { return y_; }
+    void setY(float y) { y_ = y; }
+
+    /// The text itself.
+    const std::string& getInfo() const { return info_; }
+    void setInfo(const std::string& info) { info_ = info; }
+
+private:
+    int osdType_ = 0;
+    bool osdEnableFlag_ = false;
+    float x_ = 0.0F;
+    float y_ = 0.0F;
+    std::string info_;
+};
+
+/// The texts on the picture of one camera.
+class VideoOSDInfoEx
+{
+public:
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// The texts.
+    /// @{
+    const std::vector<OSDInfoEx>& getOSDInfoList() const { return osdInfoList_; }
+    std::vector<OSDInfoEx>& getOSDInfoList() { return osdInfoList_; }
+    void setOSDInfoList(const std::vector<OSDInfoEx>& osdInfoList) { osdInfoList_ = osdInfoList; }
+    /// @}
+
+private:
+    int cameraId_ = 0;
+    std::vector<OSDInfoEx> osdInfoList_;
+};
+
+/// How the time is drawn on a picture.
+class OSDPrintTime
+{
+public:
+    /// The kind of text, as the device numbers it.
+    int getOSDType() const { return osdType_; }
+    void setOSDType(const int& osdType) { osdType_ = osdType; }
+
+    /// How the time is shown, as the device numbers it.
+    int getTime() const { return time_; }
+    void setTime(const int& time) { time_ = time; }
+
+private:
+    int osdType_ = 0;
+    int time_ = 0;
+};
+
+/// All that a device draws on its cameras' pictures.
+class DeviceOSDInfo
+{
+public:
+    /// How the time is drawn.
+    /// @{
+    const OSDPrintTime& getOSDPrintTime() const { return osdPrintTime_; }
+    OSDPrintTime& getOSDPrintTime() { return osdPrintTime_; }
+    void setOSDPrintTime(const OSDPrintTime& osdPrintTime) { osdPrintTime_ = osdPrintTime; }
+    /// @}
+
+    /// How positions are given, as the device numbers it.
+    int getPositionOSDType() const { return positionOSDType_; }
+    void setPositionOSDType(const int& positionOSDType) { positionOSDType_ = positionOSDType; }
+
+    /// The texts, camera by camera.
+    /// @{
+    const std::vector<VideoOSDInfoEx>& getVideoOSDInfoExList() const { return videoOSDInfoExList_; }
+    std::vector<VideoOSDInfoEx>& getVideoOSDInfoExList() { return videoOSDInfoExList_; }
+    void setVideoOSDInfoExList(const std::vector<VideoOSDInfoEx>& videoOSDInfoExList)
+    {
+        videoOSDInfoExList_ = videoOSDInfoExList;
+    }
+    /// @}
+
+private:
+    OSDPrintTime osdPrintTime_;
+    int positionOSDType_ = 0;
+    std::vector<VideoOSDInfoEx> videoOSDInfoExList_;
+};
+
+/// The font of the texts on one stream.
+class VideoOSDFont
+{
+public:
+    /// The camera's number on the device.
+    int getCameraID() const { return cameraID_; }
+    void setCameraID(int cameraID) { cameraID_ = cameraID; }
+
+    /// The stream of that camera.
+    int getStreamID() const { return streamID_; }
+    void setStreamID(int streamID) { streamID_ = streamID; }
+
+    /// Whether the colour turns to its inverse where the picture would hide it.
+    bool getInverseFlag() const { return inverseFlag_; }
+    void setInverseFlag(bool inverseFlag) { inverseFlag_ = inverseFlag; }
+
+    /// The font, as the device numbers it.
+    int getFontID() const { return fontID_; }
+    void setFontID(int fontID) { fontID_ = fontID; }
+
+    /// The font's colour and, with a 1 in its names, the second one, each with its opacity, as the device scales them.
+    /// @{
+    void getFontColorRGB(int& red, int& green, int& blue, int& alpha, int& red1, int& green1, int& blue1,
+                         int& alpha1) const
+    {
+        red = red_;
+        green = green_;
+        blue = blue_;
+        alpha = alpha_;
+        red1 = red1_;
+        green1 = green1_;
+        blue1 = blue1_;
+        alpha1 = alpha1_;
+    }
+    void setFontColorRGB(int red, int green, int blue, int alpha, int red1, int green1, int blue1, int alpha1)
+    {
+        red_ = red;
+        green_ = green;
+        blue_ = blue;
+        alpha_ = alpha;
+        red1_ = red1;
+        green1_ = green1;
+        blue1_ = blue1;
+        alpha1_ = alpha1;
+    }
+    /// @}
+
+private:
+    int cameraID_ = 0;
+    int streamID_ = 0;
+    bool inverseFlag_ = false;
+    int fontID_ = 0;
+    int red_ = 0;
+    int green_ = 0;
+    int blue_ = 0;
+    int alpha_ = 0;
+    int red1_ = 0;
+    int green1_ = 0;
+    int blue1_ = 0;
+    int alpha1_ = 0;
+};
+
+/// A rectangle on a picture, in whole numbers.
+class AreaParam
+{
+public:
+    /// Its upper left corner, across.
+    int getTopX() const { return topX_; }
+    void setTopX(int topX) { topX_ = topX; }
+
+    /// Its upper left corner, down.
+    int getTopY() const { return topY_; }
+    void setTopY(int topY) { topY_ = topY; }
+
+    /// How far it reaches across.
+    int getWidth() const { return width_; }
+    void setWidth(int width) { width_ = width; }
+
+    /// How far it reaches down.
+    int getHeight() const { return height_; }
+    void setHeight(int height) { height_ = height; }
+
+private:
+    int topX_ = 0;
+    int topY_ = 0;
+    int width_ = 0;
+    int height_ = 0;
+};
+
+/// A rectangle on a picture, in fractions.
+class AreaParamV2
+{
+public:
+    /// Its upper left corner, across.
+    double getTopX() const { return topX_; }
+    void setTopX(double topX) { topX_ = topX; }
+
+    /// Its upper left corner, down.
+    double getTopY() const { return topY_; }
+    void setTopY(double topY) { topY_ = topY; }
+
+    /// How far it reaches across.
+    double getWidth() const { return width_; }
+    void setWidth(double width) { width_ = width; }
+
+    /// How far it reaches down.
+    double getHeight() const { return height_; }
+    void setHeight(double height) { height_ = height; }
+
+private:
+    double topX_ = 0.0;
+    double topY_ = 0.0;
+    double width_ = 0.0;
+    double height_ = 0.0;
+};
+
+/// What is hidden of the picture of one camera.
+class BlindAreaParam
+{
+public:
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// Whether anything is hidden.
+    bool getEnableFlag() const { return enableFlag_; }
+    void setEnableFlag(bool enableFlag) { enableFlag_ = enableFlag; }
+
+    /// The kind of cover, as the device numbers it.
+    int getType() const { return type_; }
+    void setType(int type) { type_ = type; }
+
+    /// The colour of a cover of colour.
+    /// @{
+    const ColorParam& getColor() const { return color_; }
+    ColorParam& getColor() { return color_; }
+    void setColor(const ColorParam& color) { color_ = color; }
+    /// @}
+
+    /// The tiles of a mosaic.
+    /// @{
+    const MosaicParam& getMosaic() const { return mosaic_; }
+    MosaicParam& getMosaic() { return mosaic_; }
+    void setMosaic(const MosaicParam& mosaic) { mosaic_ = mosaic; }
+    /// @}
+
+    /// The hidden areas.
+    /// @{
+    const std::vector<AreaParam>& getAreaParam() const { return areaParam_; }
+    std::vector<AreaParam>& getAreaParam() { return areaParam_; }
+    void setAreaParam(const std::vector<AreaParam>& areaParam) { areaParam_ = areaParam; }
+    /// @}
+
+private:
+    int cameraId_ = 0;
+    bool enableFlag_ = false;
+    int type_ = 0;
+    ColorParam color_;
+    MosaicParam mosaic_;
+    std::vector<AreaParam> areaParam_;
+};
+
+/// One hidden area of a picture.
+class BlindAreaParamV2
+{
+public:
+    /// The number of the area.
+    int getAreaId() const { return areaId_; }
+    void setAreaId(int areaId) { areaId_ = areaId; }
+
+    /// Whether it is hidden.
+    bool getEnableFlag() const { return enableFlag_; }
+    void setEnableFlag(bool enableFlag) { enableFlag_ = enableFlag; }
+
+    /// Its name, as set by the user.
+    const std::string& getAreaName() const { return areaName_; }
+    void setAreaName(const std::string& areaName) { areaName_ = areaName; }
+
+    /// The colour of the cover.
+    /// @{
+    const ColorParam& getColor() const { return color_; }
+    ColorParam& getColor() { return color_; }
+    void setColor(const ColorParam& color) { color_ = color; }
+    /// @}
+
+    /// Where it lies.
+    /// @{
+    const AreaParamV2& getAreaParamV2() const { return areaParamV2_; }
+    AreaParamV2& getAreaParamV2() { return areaParamV2_; }
+    void setAreaParamV2(const AreaParamV2& areaParamV2) { areaParamV2_ = areaParamV2; }
+    /// @}
+
+private:
+    int areaId_ = 0;
+    bool enableFlag_ = false;
+    std::string areaName_;
+    ColorParam color_;
+    AreaParamV2 areaParamV2_;
+};
+
+/// A region of a picture that the encoder favours.
+class ROIInfoParam
+{
+public:
+    /// Its name, as set by the user.
+    const std::string& getName() const { return name_; }
+    void setName(const std::string& name) { name_ = name; }
+
+    /// The stream that it belongs to.
+    int getStreamID() const { return streamID_; }
+    void setStreamID(int streamID) { streamID_ = streamID; }
+
+    /// Its number on that stream.
+    int getIndexID() const { return indexID_; }
+    void setIndexID(int indexID) { indexID_ = indexID; }
+
+    /// Whether it is favoured.
+    bool getEnableFlag() const { return enableFlag_; }
+    void setEnableFlag(bool enableFlag) { enableFlag_ = enableFlag; }
+
+    /// How much, as the device numbers it.
+    int getROILevel() const { return roiLevel_; }
+    void setROILevel(int roiLevel) { roiLevel_ = roiLevel; }
+
+    /// Where it lies.
+    /// @{
+    const AreaParam& getAreaParam() const { return areaParam_; }
+    AreaParam& getAreaParam() { return areaParam_; }
+    void setAreaParam(const AreaParam& areaParam) { areaParam_ = areaParam; }
+    /// @}
+
+private:
+    std::string name_;
+    int streamID_ = 0;
+    int indexID_ = 0;
+    bool enableFlag_ = false;
+    int roiLevel_ = 0;
+    AreaParam areaParam_;
+};
+
+/// The favoured regions of one stream.
+class ROIConfigure
+{
+public:
+    /// The stream.
+    int getStreamID() const { return streamID_; }
+    void setStreamID(int streamID) { streamID_ = streamID; }
+
+    /// Its regions.
+    /// @{
+    const std::vector<ROIInfoParam>& getROIInfoParamList() const { return roiInfoParamList_; }
+    std::vector<ROIInfoParam>& getROIInfoParamList() { return roiInfoParamList_; }
+    void setROIInfoParamList(const std::vector<ROIInfoParam>& roiInfoParamList)
+    {
+        roiInfoParamList_ = roiInfoParamList;
+    }
+    /// @}
+
+private:
+    int streamID_ = 0;
+    std::vector<ROIInfoParam> roiInfoParamList_;
+};
+
+/// One way of processing sound.
+class AudioProcessParam
+{
+public:
+    /// Which one, as the audio hardware numbers it.
+    int getProcessType() const { return processType_; }
+    void setProcessType(const int& processType) { processType_ = processType; }
+
+    /// Whether it is on.
+    bool getEnable() const { return enable_; }
+    void setEnable(const bool& enable) { enable_ = enable; }
+
+private:
+    int processType_ = 0;
+    bool enable_ = false;
+};
+
+/// One module that processes sound.
+class AudioProcessInfo
+{
+public:
+    /// The module, as the audio hardware numbers it.
+    int getModuleId() const { return moduleId_; }
+    void setModuleId(int moduleId) { moduleId_ = moduleId; }
+
+    /// Whether the device supports it; the document says "SupportFlag".
+    bool getEnableFlag() const { return enableFlag_; }
+    void setEnableFlag(bool enableFlag) { enableFlag_ = enableFlag; }
+
+    /// What it does. The setter lacks the "a" that the getter has.
+    /// @{
+    const std::vector<AudioProcessParam>& getProcessParamList() const { return processParamList_; }
+    std::vector<AudioProcessParam>& getProcessParamList() { return processParamList_; }
+    void setProcessParmList(const std::vector<AudioProcessParam>& processParamList)
+    {
+        processParamList_ = processParamList;
+    }
+    /// @}
+
+private:
+    int moduleId_ = 0;
+    bool enableFlag_ = false;
+    std::vector<AudioProcessParam> processParamList_;
+};
+
+/// The loudhailer of a camera.
+class LoudhailerParam
+{
+public:
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// Whether it sounds.
+    bool getLoudhailerEnableFlag() const { return loudhailerEnableFlag_; }
+    void setLoudhailerEnableFlag(bool loudhailerEnableFlag) { loudhailerEnableFlag_ = loudhailerEnableFlag; }
+
+    /// Its kind, as the device numbers it.
+    int getLoudhailerType() const { return loudhailerType_; }
+    void setLoudhailerType(int loudhailerType) { loudhailerType_ = loudhailerType; }
+
+    /// How loud, as the device scales it.
+    int getVolume() const { return volume_; }
+    void setVolume(int volume) { volume_ = volume; }
+
+private:
+    int cameraId_ = 0;
+    bool loudhailerEnableFlag_ = false;
+    int loudhailerType_ = 0;
+    int volume_ = 0;
+};
+
+/// The tone arm of a camera.
+class ToneArmParam
+{
+public:
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// Whether it sounds.
+    bool getToneArmEnableFlag() const { return toneArmEnableFlag_; }
+    void setToneArmEnableFlag(bool toneArmEnableFlag) { toneArmEnableFlag_ = toneArmEnableFlag; }
+
+    /// Its kind, as the device numbers it.
+    int getToneArmType() const { return toneArmType_; }
+    void setToneArmType(int toneArmType) { toneArmType_ = toneArmType; }
+
+    /// How loud, as the device scales it.
+    int getVolume() const { return volume_; }
+    void setVolume(int volume) { volume_ = volume; }
+
+private:
+    int cameraId_ = 0;
+    bool toneArmEnableFlag_ = false;
+    int toneArmType_ = 0;
+    int volume_ = 0;
 };
