@@ -22,9 +22,16 @@
 #include "commands/PTZChannelCloseXml.h"
 #include "commands/PTZChannelRequestXml.h"
 #include "commands/PTZChannelResponseXml.h"
+#include "commands/PlayExceptionXML.h"
 #include "commands/RS485ChannelCloseXml.h"
 #include "commands/RS485ChannelResponseXml.h"
 #include "commands/RS485DataXml.h"
+#include "commands/RecordStreamAddXML.h"
+#include "commands/RecordStreamCloseXml.h"
+#include "commands/RecordStreamCtrlXml.h"
+#include "commands/RecordStreamOpenXml.h"
+#include "commands/RecordStreamRemoveXML.h"
+#include "commands/RecordStreamResponseXml.h"
 #include "commands/VideoStreamCloseXml.h"
 #include "commands/VideoStreamCtrlXml.h"
 #include "commands/VideoStreamRequestXml.h"
@@ -56,9 +63,16 @@ std::vector<CodecCase> commandsCodecs()
         {"commands", "PTZChannelCloseXml", "document", rewriteDocument<PTZChannelCloseXml>},
         {"commands", "PTZChannelRequestXml", "document", rewriteDocument<PTZChannelRequestXml>},
         {"commands", "PTZChannelResponseXml", "document", rewriteDocument<PTZChannelResponseXml>},
+        {"commands", "PlayExceptionXML", "document", rewriteDocument<PlayExceptionXML>},
         {"commands", "RS485ChannelCloseXml", "document", rewriteDocument<RS485ChannelCloseXml>},
         {"commands", "RS485ChannelResponseXml", "document", rewriteDocument<RS485ChannelResponseXml>},
         {"commands", "RS485DataXml", "document", rewriteDocument<RS485DataXml>},
+        {"commands", "RecordStreamAddXML", "document", rewriteDocument<RecordStreamAddXML>},
+        {"commands", "RecordStreamCloseXml", "document", rewriteDocument<RecordStreamCloseXml>},
+        {"commands", "RecordStreamCtrlXml", "document", rewriteDocument<RecordStreamCtrlXml>},
+        {"commands", "RecordStreamOpenXml", "document", rewriteDocument<RecordStreamOpenXml>},
+        {"commands", "RecordStreamRemoveXML", "document", rewriteDocument<RecordStreamRemoveXML>},
+        {"commands", "RecordStreamResponseXml", "document", rewriteDocument<RecordStreamResponseXml>},
         {"commands", "VideoStreamCloseXml", "document", rewriteDocument<VideoStreamCloseXml>},
         {"commands", "VideoStreamCtrlXml", "document", rewriteDocument<VideoStreamCtrlXml>},
         {"commands", "VideoStreamRequestXml", "document", rewriteDocument<VideoStreamRequestXml>},
