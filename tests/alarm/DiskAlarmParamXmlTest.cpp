@@ -1,0 +1,48 @@
+#include "alarm/DiskAlarmParamXml.h"
+
+#include "tests/support/Documents.h"
+
+namespace
+{
+
+DiskAlarmParam sample()
+{
+    DiskAlarmParam param;
+    param.setDiskFullAlarmCheckFlag(true);
+    param.setMaxDiskPercent(54);
+    param.setMinDiskPercent(55);
+    param.setDiskErrorAlarmCheckFlag(true);
+    return param;
+}
+
+void expectParam(const DiskAlarmParam& expected, const DiskAlarmParam& param)
+{
+    EXPECT_EQ(expected.getDiskFullAlarmCheckFlag(), param.getDiskFullAlarmCheckFlag());
+    EXPECT_EQ(expected.getMaxDiskPercent(), param.getMaxDiskPercent());
+    EXPECT_EQ(expected.getMinDiskPercent(), param.getMinDiskPercent());
+    EXPECT_EQ(expected.getDiskErrorAlarmCheckFlag(), param.getDiskErrorAlarmCheckFlag());
+}
+
+} // namespace
+
+TEST(DiskAlarmParamXml, Writes)
+{
+    DiskAlarmParamXml codec;
+    codec.setDiskAlarmParam(sample());
+    EXPECT_TRUE(matchesGolden(written(codec), "alarm/DiskAlarmParamXml.document.xml"));
+}
+
+TEST(DiskAlarmParamXml, Reads)
+{
+    DiskAlarmParamXml codec;
+    ASSERT_TRUE(reads(codec, golden("alarm/DiskAlarmParamXml.document.xml")));
+    expectParam(sample(), codec.getDiskAlarmParam());
+}
+
+TEST(DiskAlarmParamXml, ResetsWhatIsMissing)
+{
+    DiskAlarmParamXml codec;
+    codec.setDiskAlarmParam(sample());
+    ASSERT_TRUE(reads(codec, "<DiskAlarmParam />"));
+    expectParam(DiskAlarmParam(), codec.getDiskAlarmParam());
+}
