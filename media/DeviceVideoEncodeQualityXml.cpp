@@ -60,7 +60,7 @@ bool DeviceVideoEncodeQualityXml::parseDomainXmlNode(const SafePointer<DomainXml
     {
         VideoEncodeQuality stream;
         if (!VideoEncodeQualityXml().parseDomainXmlNode(frame::nodeOf(*item), stream)) return false;
-        streams.push_back(std::move(stream));
+        streams.push_back(stream);
     }
     quality.setVideoEncodeQualityList(streams);
     return true;

@@ -10,7 +10,6 @@
 #include "media/VideoEncodeQualityXml.h"
 
 #include <cstdio>
-#include <utility>
 
 EncodeQualityXml::EncodeQualityXml() = default;
 
@@ -131,7 +130,7 @@ bool EncodeQualityXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node
     {
         EncodeQuality quality;
         if (!parseDomainXmlNode(frame::nodeOf(*item), quality)) return false;
-        qualities.push_back(std::move(quality));
+        qualities.push_back(quality);
     }
     return true;
 }

@@ -1,10 +1,13 @@
 #include "tests/suite/Codecs.h"
 
+#include "commands/AVDataQueueXml.h"
 #include "commands/AlarmChannelCloseXml.h"
 #include "commands/AlarmChannelRequestXml.h"
 #include "commands/AlarmChannelResponseXml.h"
+#include "commands/AudioInfoXml.h"
 #include "commands/AudioStreamCloseXml.h"
 #include "commands/AudioStreamRequestXml.h"
+#include "commands/CMSStreamParamXml.h"
 #include "commands/ChangeAVStreamXml.h"
 #include "commands/DataChannelRequestXml.h"
 #include "commands/DataChannelResponseXml.h"
@@ -12,6 +15,7 @@
 #include "commands/DecoderRequestXml.h"
 #include "commands/DecoderResponseXml.h"
 #include "commands/DecoderWindowModeXml.h"
+#include "commands/IntelligenceAnalyseStreamRequestXml.h"
 #include "commands/InterPhoneCloseXml.h"
 #include "commands/InterPhoneRequestXml.h"
 #include "commands/InterPhoneResponseXml.h"
@@ -32,20 +36,28 @@
 #include "commands/RecordStreamOpenXml.h"
 #include "commands/RecordStreamRemoveXML.h"
 #include "commands/RecordStreamResponseXml.h"
+#include "commands/StreamURIRequestXml.h"
+#include "commands/StreamURIResponseXml.h"
+#include "commands/StreamlInfoXml.h"
+#include "commands/VideoInfoXml.h"
 #include "commands/VideoStreamCloseXml.h"
 #include "commands/VideoStreamCtrlXml.h"
 #include "commands/VideoStreamRequestXml.h"
+#include "commands/VideoStreamResponseXml.h"
 #include "tests/suite/Rewrite.h"
 
 std::vector<CodecCase> commandsCodecs()
 {
     return {
         // clang-format off
+        {"commands", "AVDataQueueXml", "document", rewriteDocument<AVDataQueueXml>},
         {"commands", "AlarmChannelCloseXml", "document", rewriteDocument<AlarmChannelCloseXml>},
         {"commands", "AlarmChannelRequestXml", "document", rewriteDocument<AlarmChannelRequestXml>},
         {"commands", "AlarmChannelResponseXml", "document", rewriteDocument<AlarmChannelResponseXml>},
+        {"commands", "AudioInfoXml", "document", rewriteDocument<AudioInfoXml>},
         {"commands", "AudioStreamCloseXml", "document", rewriteDocument<AudioStreamCloseXml>},
         {"commands", "AudioStreamRequestXml", "document", rewriteDocument<AudioStreamRequestXml>},
+        {"commands", "CMSStreamParamXml", "document", rewriteDocument<CMSStreamParamXml>},
         {"commands", "ChangeAVStreamXml", "document", rewriteDocument<ChangeAVStreamXml>},
         {"commands", "DataChannelRequestXml", "document", rewriteDocument<DataChannelRequestXml>},
         {"commands", "DataChannelResponseXml", "document", rewriteDocument<DataChannelResponseXml>},
@@ -53,6 +65,7 @@ std::vector<CodecCase> commandsCodecs()
         {"commands", "DecoderRequestXml", "document", rewriteDocument<DecoderRequestXml>},
         {"commands", "DecoderResponseXml", "document", rewriteDocument<DecoderResponseXml>},
         {"commands", "DecoderWindowModeXml", "document", rewriteDocument<DecoderWindowModeXml>},
+        {"commands", "IntelligenceAnalyseStreamRequestXml", "element", rewriteBackedDocument<IntelligenceAnalyseStreamRequestXml>},
         {"commands", "InterPhoneCloseXml", "document", rewriteDocument<InterPhoneCloseXml>},
         {"commands", "InterPhoneRequestXml", "document", rewriteDocument<InterPhoneRequestXml>},
         {"commands", "InterPhoneResponseXml", "document", rewriteDocument<InterPhoneResponseXml>},
@@ -73,9 +86,15 @@ std::vector<CodecCase> commandsCodecs()
         {"commands", "RecordStreamOpenXml", "document", rewriteDocument<RecordStreamOpenXml>},
         {"commands", "RecordStreamRemoveXML", "document", rewriteDocument<RecordStreamRemoveXML>},
         {"commands", "RecordStreamResponseXml", "document", rewriteDocument<RecordStreamResponseXml>},
+        {"commands", "StreamURIRequestXml", "document", rewriteDocument<StreamURIRequestXml>},
+        {"commands", "StreamURIResponseXml", "document", rewriteDocument<StreamURIResponseXml>},
+        {"commands", "StreamlInfoXml", "node", rewriteText<StreamlInfoXml, StreamlInfo>},
+        {"commands", "VideoInfoXml", "document", rewriteDocument<VideoInfoXml>},
         {"commands", "VideoStreamCloseXml", "document", rewriteDocument<VideoStreamCloseXml>},
         {"commands", "VideoStreamCtrlXml", "document", rewriteDocument<VideoStreamCtrlXml>},
         {"commands", "VideoStreamRequestXml", "document", rewriteDocument<VideoStreamRequestXml>},
+        {"commands", "VideoStreamResponseXml", "document", rewriteDocument<VideoStreamResponseXml>},
+        // reads a root of any name, as an element
         // clang-format on
     };
 }
