@@ -10,8 +10,8 @@
 
 /// How a camera's picture and sound are encoded: the "EncodeQuality" document, and "EncodeQualityList" for several.
 ///
-/// A missing attribute resets its field, in both forms. A missing child leaves its field in the document form; in the
-/// node form it gives a new record, and prints a line, as a missing "CameraId" does.
+/// A missing attribute resets its field, in both forms. A missing child leaves its field in the document form and gives
+/// a new record in the node form, which prints lines for all that is missing.
 class EncodeQualityXml : public IDomainXml
 {
 public:
