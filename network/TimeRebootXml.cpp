@@ -1,0 +1,44 @@
+// <TimeRebootParam TimeRebootEnableFlag="true">
+//     <RebootTime Month="4" Day="15" Weekday="6" Second="10800" />
+// </TimeRebootParam>
+
+#include "network/TimeRebootXml.h"
+
+#include "core/Frame.h"
+#include "network/RebootTimeXml.h"
+
+#include <tinyxml.h>
+#include <vector>
+
+TimeRebootXml::TimeRebootXml() = default;
+
+TimeRebootXml::~TimeRebootXml() = default;
+
+bool TimeRebootXml::createXmlString(const TimeRebootParam& param, std::string& text) const
+{
+    SafePointer<DomainXmlNode> root = frame::makeNode("TimeRebootParam");
+    root->setProperty("TimeRebootEnableFlag", param.getTimeRebootEnableFlag());
+    return RebootTimeXml().createDomainXmlNode(param.getRebootTimeList(), root) && DomainXmlNode::toString(root, text);
+}
+
+bool TimeRebootXml::parseXmlString(const std::string& text, TimeRebootParam& param) const
+{
+    SafePointer<DomainXmlNode> root;
+    if (!DomainXmlNode::parse(text, "TimeRebootParam", root)) return false;
+
+    param.setTimeRebootEnableFlag(frame::flagProperty(root, "TimeRebootEnableFlag", false));
+
+    std::vector<RebootTime> times;
+    const TiXmlElement* item = frame::firstItem(*root->getXmlNode(), "RebootTime");
+    for (; item != nullptr; item = item->NextSiblingElement("RebootTime"))
+    {
+        RebootTime time;
+        time.setMonth(frame::intOf(*item, "Month", 0));
+        time.setDay(frame::intOf(*item, "Day", 0));
+        time.setWeekday(frame::intOf(*item, "Weekday", 0));
+        time.setSecond(frame::intOf(*item, "Second", 0));
+        times.push_back(time);
+    }
+    param.setRebootTimeList(times);
+    return true;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/IDomainXml.h"
+#include "domain/DomainXmlNode.h"
+#include "domain/NetworkRecords.h"
+
+#include <string>
+#include <vector>
+
+/// How a device sends mail: the "ZT_SMTPParam" document, and "ZT_SMTPParamList" for several.
+///
+/// It is the document of SMTPParamXml with a prefix to every name, for peers who know the mail settings by these names.
+///
+/// A missing attribute prints a line and resets its field, and a missing list of recipients empties theirs. A recipient
+/// without an address gives false: the record has the attributes then, and the recipients that it had before.
+class ZT_SMTPParamXml : public IDomainXml
+{
+public:
+    ZT_SMTPParamXml();
+    ~ZT_SMTPParamXml() override;
+
+    /// @name Node form
+    /// See IDomainXml. Lists are appended to.
+    /// @{
+    bool createDomainXmlNode(const SMTPParam& param, SafePointer<DomainXmlNode>& node) const;
+    bool createDomainXmlNode(const std::vector<SMTPParam>& params, SafePointer<DomainXmlNode>& node) const;
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, SMTPParam& param) const;
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, std::vector<SMTPParam>& params) const;
+    bool createXmlString(const SMTPParam& param, std::string& text) const;
+    bool createXmlString(const std::vector<SMTPParam>& params, std::string& text) const;
+    bool parseXmlString(const std::string& text, SMTPParam& param) const;
+    bool parseXmlString(const std::string& text, std::vector<SMTPParam>& params) const;
+    /// @}
+};
