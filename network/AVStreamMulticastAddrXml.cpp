@@ -95,6 +95,7 @@ bool AVStreamMulticastAddrXml::parseDomainXmlNode(const SafePointer<DomainXmlNod
         const SafePointer<DomainXmlNode> child = frame::nodeOf(*item);
         AVStreamMulticastAddr address;
         address.setDeviceId(frame::textProperty(child, "DeviceId", address.getDeviceId()));
+        // Peers number their cameras from 1: a node without a number speaks of the first.
         address.setCameraId(frame::intProperty(
             child, "CameraId", 1, "AVStreamMulticastAddrXml::parseDomainXmlNode node = ATTR_CAMERA_ID failed "));
         address.setMulticastIP(frame::textProperty(child, "MulticastIP", address.getMulticastIP()));

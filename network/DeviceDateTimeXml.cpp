@@ -1,4 +1,6 @@
 // <DeviceDateTime DeviceId="D-17" TimeZone="8" DataFormat="1" ... EndTime="03:00:00" />
+//
+// "DataFormat" and "DTSOpenFlag" are the peers' spelling; other documents say "DSTOpenFlag".
 
 #include "network/DeviceDateTimeXml.h"
 

@@ -9,7 +9,6 @@
 #include "core/Frame.h"
 #include "core/IPAddrSegmentXml.h"
 
-#include <tinyxml.h>
 #include <utility>
 
 IPFilterParamXml::IPFilterParamXml() = default;

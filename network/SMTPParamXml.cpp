@@ -8,7 +8,6 @@
 
 #include "core/Frame.h"
 
-#include <tinyxml.h>
 #include <utility>
 
 SMTPParamXml::SMTPParamXml() = default;

@@ -7,7 +7,6 @@
 #include "core/Frame.h"
 #include "network/RebootTimeXml.h"
 
-#include <tinyxml.h>
 #include <vector>
 
 TimeRebootXml::TimeRebootXml() = default;

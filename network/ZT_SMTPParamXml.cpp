@@ -8,7 +8,6 @@
 
 #include "core/Frame.h"
 
-#include <tinyxml.h>
 #include <utility>
 
 ZT_SMTPParamXml::ZT_SMTPParamXml() = default;

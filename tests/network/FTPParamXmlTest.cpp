@@ -22,7 +22,7 @@ void expectParam(const FTPParam& expected, const FTPParam& param)
     EXPECT_EQ(expected.getFTPEnableFlag(), param.getFTPEnableFlag());
     EXPECT_EQ(expected.getFTPServerAddr(), param.getFTPServerAddr());
     EXPECT_EQ(expected.getFTPUserName(), param.getFTPUserName());
-    EXPECT_TRUE(expected.getFTPPassword() == param.getFTPPassword()); // prints neither
+    EXPECT_TRUE(expected.getFTPPassword() == param.getFTPPassword()); // without the texts
     EXPECT_EQ(expected.getFTPServerWorkPath(), param.getFTPServerWorkPath());
     EXPECT_EQ(expected.getIPProtoVer(), param.getIPProtoVer());
 }
@@ -33,7 +33,7 @@ TEST(FTPParamXml, Writes)
 {
     FTPParamXml codec;
     codec.setFTPParam(sample());
-    EXPECT_TRUE(written(codec) == golden("network/FTPParamXml.document.xml")); // prints no password
+    EXPECT_TRUE(matchesGolden(written(codec), "network/FTPParamXml.document.xml"));
 }
 
 TEST(FTPParamXml, Reads)

@@ -27,7 +27,7 @@ void expectMail(const SMTPParam& expected, const SMTPParam& param)
     EXPECT_EQ(expected.getSMTPServerAddr(), param.getSMTPServerAddr());
     EXPECT_EQ(expected.getSMTPServerPort(), param.getSMTPServerPort());
     EXPECT_EQ(expected.getSMTPUserName(), param.getSMTPUserName());
-    EXPECT_TRUE(expected.getSMTPPassword() == param.getSMTPPassword());
+    EXPECT_TRUE(expected.getSMTPPassword() == param.getSMTPPassword()); // without the texts
     EXPECT_EQ(expected.getSenderEmailAddress(), param.getSenderEmailAddress());
     EXPECT_EQ(expected.getRecipientEmailAddressList(), param.getRecipientEmailAddressList());
     EXPECT_EQ(expected.getMailLanguage(), param.getMailLanguage());

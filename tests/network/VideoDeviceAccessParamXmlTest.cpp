@@ -35,7 +35,7 @@ void expectParam(const VideoDeviceAccessParam& expected, const VideoDeviceAccess
     EXPECT_EQ(expected.getDeviceID(), param.getDeviceID());
     EXPECT_EQ(expected.getDeviceName(), param.getDeviceName());
     EXPECT_EQ(expected.getUserID(), param.getUserID());
-    EXPECT_TRUE(expected.getPassword() == param.getPassword()); // prints neither
+    EXPECT_TRUE(expected.getPassword() == param.getPassword()); // without the texts
     EXPECT_EQ(expected.getRouterMappingEnableFlag(), param.getRouterMappingEnableFlag());
     EXPECT_EQ(expected.getRouterAddr(), param.getRouterAddr());
     EXPECT_EQ(expected.getRouterMappingControlPort(), param.getRouterMappingControlPort());
@@ -51,7 +51,7 @@ TEST(VideoDeviceAccessParamXml, Writes)
 {
     VideoDeviceAccessParamXml codec;
     codec.setVideoDeviceAccessParamList({sample(), VideoDeviceAccessParam()});
-    EXPECT_TRUE(written(codec) == golden("network/VideoDeviceAccessParamXml.document.xml")); // prints no password
+    EXPECT_TRUE(matchesGolden(written(codec), "network/VideoDeviceAccessParamXml.document.xml"));
 }
 
 TEST(VideoDeviceAccessParamXml, WritesAnEmptyList)
