@@ -468,11 +468,11 @@ private:
 class MaxOpticalMagnificationParamV2
 {
 public:
-    /// As it is given to users.
+    /// The highest magnification, as users are told it.
     int getMaxOpticalMagnification() const { return maxOpticalMagnification_; }
     void setMaxOpticalMagnification(int maxOpticalMagnification) { maxOpticalMagnification_ = maxOpticalMagnification; }
 
-    /// As it is.
+    /// The highest magnification that the lens reaches.
     int getMaxRealOpticalMagnification() const { return maxRealOpticalMagnification_; }
     void setMaxRealOpticalMagnification(int maxRealOpticalMagnification)
     {
