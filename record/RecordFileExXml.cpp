@@ -23,6 +23,7 @@ namespace
 void writeFile(TiXmlNode& list, const RecordFileEx& file)
 {
     TiXmlElement& element = frame::appendElement(list, "RecordFile");
+    // The peers spell these two with a small letter here, and with a capital in every other list of recordings.
     frame::setText(element, "deviceId", file.getDeviceId());
     frame::setText(element, "deviceIp", file.getDeviceIP());
     frame::setInt(element, "CameraId", file.getCameraId());

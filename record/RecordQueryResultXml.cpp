@@ -50,6 +50,7 @@ void readSegment(const TiXmlElement& element, RecordTimeSegment& segment)
 void writeResult(TiXmlNode& list, const RecordQueryResult& result)
 {
     TiXmlElement& element = frame::appendElement(list, "RecordQueryResult");
+    // The peers spell the answer with "ID" and "IP", the question with "Id" and "Ip".
     frame::setText(element, "DeviceID", result.getDeviceID());
     frame::setText(element, "DeviceIP", result.getDeviceIP());
     frame::setInt(element, "CameraID", result.getCameraID());

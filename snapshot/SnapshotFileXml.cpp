@@ -46,6 +46,7 @@ bool SnapshotFileXml::parseXmlNode()
 TiXmlElement& SnapshotFileXml::writeElement(TiXmlNode& parent, const SnapshotFile& file)
 {
     TiXmlElement& element = frame::appendElement(parent, "SnapshotFile");
+    // Small letters at the begin, and in all of "lockflag": so the peers tell this document from that of a stretch.
     frame::setInt64(element, "snapshotFileTime", file.getSnapshotFileTime());
     frame::setInt(element, "snapshotPolicyType", file.getSnapshotPolicyType());
     frame::setFlag(element, "lockflag", file.getLockFlag());
