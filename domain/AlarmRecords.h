@@ -300,7 +300,7 @@ public:
     /// @{
     const std::string& getPtzOperationCmd() const { return ptzOperationCmd_; }
     int getPtzOperationCmdLen() const { return static_cast<int>(ptzOperationCmd_.size()); }
-    /// Takes @p length bytes from @p command.
+    /// Takes the first @p length bytes of @p command, which must hold as many.
     /// @return false, with the command as it was, for a null pointer or a negative length.
     bool setPtzOperationCmd(const char* command, int length)
     {

@@ -53,7 +53,7 @@ TEST(AlarmPTZActionXml, EmptiesACommandWithoutItsLengthAndALengthWithoutItsComma
     }
 }
 
-TEST(AlarmPTZActionXml, KeepsItsRecordsCommandWhenThatIsSetToNothing)
+TEST(AlarmPTZActionXml, LeavesTheCommandOfARecordThatIsGivenNone)
 {
     AlarmPTZAction action = sampleAlarmPTZAction();
     EXPECT_FALSE(action.setPtzOperationCmd(nullptr, 1));

@@ -55,6 +55,21 @@ std::string listLines(int result)
     return lines;
 }
 
+/// A node that has a property and a child.
+SafePointer<DomainXmlNode> usedNode()
+{
+    SafePointer<DomainXmlNode> node;
+    EXPECT_TRUE(DomainXmlNode::parse("<x old='1'><Old /></x>", node));
+    return node;
+}
+
+std::string textOf(const SafePointer<DomainXmlNode>& node)
+{
+    std::string text;
+    EXPECT_TRUE(DomainXmlNode::toString(node, text));
+    return text;
+}
+
 } // namespace
 
 TEST(MotionDetectionEventXmlV2, Writes)
@@ -244,39 +259,31 @@ TEST(MotionDetectionEventXmlV2, PrintsALineForEachChildThatANodeLacks)
 TEST(MotionDetectionEventXmlV2, EmptiesTheNodesThatItsStepsFill)
 {
     const MotionDetectionEventXmlV2 codec;
-    const auto filled = [](bool (*fill)(const MotionDetectionEventXmlV2&, SafePointer<DomainXmlNode>&),
-                           const MotionDetectionEventXmlV2& with)
-    {
-        SafePointer<DomainXmlNode> node;
-        std::string text;
-        EXPECT_TRUE(DomainXmlNode::parse("<x old='1'><Old /></x>", node));
-        EXPECT_TRUE(fill(with, node));
-        EXPECT_TRUE(DomainXmlNode::toString(node, text));
-        EXPECT_EQ(0U, text.find("<x old=\"1\"")) << text;
-        EXPECT_EQ(std::string::npos, text.find("<Old />")) << text;
-        return text;
-    };
-    using Node = SafePointer<DomainXmlNode>;
-    using Codec = MotionDetectionEventXmlV2;
-    filled([](const Codec& with, Node& node)
-           { return with.createDomainMotionDetectionParamV2XmlNode(sampleMotionDetectionParamV2(), node); },
-           codec);
-    filled([](const Codec& with, Node& node)
-           { return with.createDomainScheduleTimeParamXmlNode(sampleScheduleTimeParam(), node); },
-           codec);
-    const std::string none = "<x old=\"1\" />\n";
-    EXPECT_EQ(none,
-              filled([](const Codec& with, Node& node) { return with.createDomainAlarmOutActionListXmlNode({}, node); },
-                     codec));
-    EXPECT_EQ(none, filled([](const Codec& with, Node& node)
-                           { return with.createDomainAlarmRecordActionListXmlNode({}, node); },
-                           codec));
-    EXPECT_EQ(none,
-              filled([](const Codec& with, Node& node) { return with.createDomainAlarmPTZActionListXmlNode({}, node); },
-                     codec));
-    EXPECT_EQ(none, filled([](const Codec& with, Node& node)
-                           { return with.createDomainAlarmOverlayActionListXmlNode({}, node); },
-                           codec));
+    SafePointer<DomainXmlNode> node = usedNode();
+    ASSERT_TRUE(codec.createDomainMotionDetectionParamV2XmlNode(MotionDetectionParamV2(), node));
+    EXPECT_EQ("<x old=\"1\" CheckBlockNum=\"0\" Sensitivity=\"0\">\n"
+              "\t<DetectionAreaV2 WidthCellNumber=\"0\" HighCellNumber=\"0\" Data=\"\" DataLength=\"0\" />\n"
+              "</x>\n",
+              textOf(node));
+
+    node = usedNode();
+    ASSERT_TRUE(codec.createDomainScheduleTimeParamXmlNode(ScheduleTimeParam(), node));
+    EXPECT_EQ(
+        "<x old=\"1\" DeviceId=\"\" CameraId=\"0\">\n\t<ScheduleWeekList />\n\t<ScheduleTimeSegmentList />\n</x>\n",
+        textOf(node));
+
+    node = usedNode();
+    ASSERT_TRUE(codec.createDomainAlarmOutActionListXmlNode({}, node));
+    EXPECT_EQ("<x old=\"1\" />\n", textOf(node));
+    node = usedNode();
+    ASSERT_TRUE(codec.createDomainAlarmRecordActionListXmlNode({}, node));
+    EXPECT_EQ("<x old=\"1\" />\n", textOf(node));
+    node = usedNode();
+    ASSERT_TRUE(codec.createDomainAlarmPTZActionListXmlNode({}, node));
+    EXPECT_EQ("<x old=\"1\" />\n", textOf(node));
+    node = usedNode();
+    ASSERT_TRUE(codec.createDomainAlarmOverlayActionListXmlNode({}, node));
+    EXPECT_EQ("<x old=\"1\" />\n", textOf(node));
 }
 
 TEST(MotionDetectionEventXmlV2, RefusesAnEmptyPointer)
