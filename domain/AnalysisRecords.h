@@ -5,6 +5,8 @@
 ///
 /// Records are values: copyable, and 0, empty or false in every field when new. They are not locked.
 
+#include "domain/AlarmRecords.h"
+
 #include <string>
 #include <vector>
 
@@ -782,4 +784,698 @@ private:
     CameraTamperAbility cameraTamperAbility_;
     CameraMoveAbility cameraMoveAbility_;
     AdvancedAbility advancedAbility_;
+};
+
+/// What all analysis rules have in common.
+class IntelligeBaseParam
+{
+public:
+    /// The device.
+    const std::string& getDeviceID() const { return deviceID_; }
+    void setDeviceID(const std::string& deviceID) { deviceID_ = deviceID; }
+
+    /// The camera.
+    int getCameraID() const { return cameraID_; }
+    void setCameraID(int cameraID) { cameraID_ = cameraID; }
+
+    /// Whether the rule is watched.
+    bool getEnable() const { return enable_; }
+    void setEnable(bool enable) { enable_ = enable; }
+
+    /// The least time between two alarms, in the unit of the analysis service.
+    int getAlarmInterval() const { return alarmInterval_; }
+    void setAlarmInterval(int alarmInterval) { alarmInterval_ = alarmInterval; }
+
+    /// The alarm outputs that it drives.
+    /// @{
+    const std::vector<AlarmOutAction>& getAlarmOutActionList() const { return alarmOutActionList_; }
+    std::vector<AlarmOutAction>& getAlarmOutActionList() { return alarmOutActionList_; }
+    void setAlarmOutActionList(const std::vector<AlarmOutAction>& list) { alarmOutActionList_ = list; }
+    /// @}
+
+    /// The heads that it moves.
+    /// @{
+    const std::vector<AlarmPTZAction>& getAlarmPTZActionList() const { return alarmPTZActionList_; }
+    std::vector<AlarmPTZAction>& getAlarmPTZActionList() { return alarmPTZActionList_; }
+    void setAlarmPTZActionList(const std::vector<AlarmPTZAction>& list) { alarmPTZActionList_ = list; }
+    /// @}
+
+    /// The recordings that it starts.
+    /// @{
+    const std::vector<AlarmRecordAction>& getAlarmRecordActionList() const { return alarmRecordActionList_; }
+    std::vector<AlarmRecordAction>& getAlarmRecordActionList() { return alarmRecordActionList_; }
+    void setAlarmRecordActionList(const std::vector<AlarmRecordAction>& list) { alarmRecordActionList_ = list; }
+    /// @}
+
+    /// The texts that it puts on pictures.
+    /// @{
+    const std::vector<AlarmOverlayAction>& getAlarmOverlayActionList() const { return alarmOverlayActionList_; }
+    std::vector<AlarmOverlayAction>& getAlarmOverlayActionList() { return alarmOverlayActionList_; }
+    void setAlarmOverlayActionList(const std::vector<AlarmOverlayAction>& list) { alarmOverlayActionList_ = list; }
+    /// @}
+
+    /// When it is watched.
+    /// @{
+    const ScheduleTimeParam& getScheduleTimeParam() const { return scheduleTimeParam_; }
+    ScheduleTimeParam& getScheduleTimeParam() { return scheduleTimeParam_; }
+    void setScheduleTimeParam(const ScheduleTimeParam& scheduleTimeParam) { scheduleTimeParam_ = scheduleTimeParam; }
+    /// @}
+
+private:
+    std::string deviceID_;
+    int cameraID_ = 0;
+    bool enable_ = false;
+    int alarmInterval_ = 0;
+    std::vector<AlarmOutAction> alarmOutActionList_;
+    std::vector<AlarmPTZAction> alarmPTZActionList_;
+    std::vector<AlarmRecordAction> alarmRecordActionList_;
+    std::vector<AlarmOverlayAction> alarmOverlayActionList_;
+    ScheduleTimeParam scheduleTimeParam_;
+};
+
+/// What the regions have in common whose rules tell sorts of objects apart.
+class TargetRegionParam
+{
+public:
+    /// Whether the sort of the objects is looked at.
+    bool getTargetTypeConstrain() const { return targetTypeConstrain_; }
+    void setTargetTypeConstrain(bool targetTypeConstrain) { targetTypeConstrain_ = targetTypeConstrain; }
+
+    /// The sort of the objects, as the analysis service numbers it.
+    int getTargetType() const { return targetType_; }
+    void setTargetType(int targetType) { targetType_ = targetType; }
+
+    /// Whether the size of the objects is looked at.
+    bool getTargetSizeConstrain() const { return targetSizeConstrain_; }
+    void setTargetSizeConstrain(bool targetSizeConstrain) { targetSizeConstrain_ = targetSizeConstrain; }
+
+    /// The size of the smallest object, in the unit of the analysis service.
+    int getMinTargetSize() const { return minTargetSize_; }
+    void setMinTargetSize(int minTargetSize) { minTargetSize_ = minTargetSize; }
+
+    /// The size of the largest object, in the same unit.
+    int getMaxTargetSize() const { return maxTargetSize_; }
+    void setMaxTargetSize(int maxTargetSize) { maxTargetSize_ = maxTargetSize; }
+
+private:
+    bool targetTypeConstrain_ = false;
+    int targetType_ = 0;
+    bool targetSizeConstrain_ = false;
+    int minTargetSize_ = 0;
+    int maxTargetSize_ = 0;
+};
+
+/// What the regions have in common whose rules wait before they alarm.
+class LingerRegionParam
+{
+public:
+    /// The size of the smallest object, in the unit of the analysis service.
+    int getMinTargetSize() const { return minTargetSize_; }
+    void setMinTargetSize(int minTargetSize) { minTargetSize_ = minTargetSize; }
+
+    /// The size of the largest object, in the same unit.
+    int getMaxTargetSize() const { return maxTargetSize_; }
+    void setMaxTargetSize(int maxTargetSize) { maxTargetSize_ = maxTargetSize; }
+
+    /// The time from which on it alarms, in the unit of the analysis service.
+    int getMinTime() const { return minTime_; }
+    void setMinTime(int minTime) { minTime_ = minTime; }
+
+    /// The region.
+    /// @{
+    const PolygonArea& getRegion() const { return region_; }
+    PolygonArea& getRegion() { return region_; }
+    void setRegion(const PolygonArea& region) { region_ = region; }
+    /// @}
+
+private:
+    int minTargetSize_ = 0;
+    int maxTargetSize_ = 0;
+    int minTime_ = 0;
+    PolygonArea region_;
+};
+
+/// A line that objects must not cross.
+class TripWireRegionParam : public TargetRegionParam
+{
+public:
+    /// Whether both directions alarm.
+    bool getIsBidirection() const { return isBidirection_; }
+    void setIsBidirection(bool isBidirection) { isBidirection_ = isBidirection; }
+
+    /// The direction across the line that alarms, as the analysis service counts it.
+    int getTriggerDirection() const { return triggerDirection_; }
+    void setTriggerDirection(int triggerDirection) { triggerDirection_ = triggerDirection; }
+
+    /// The line.
+    const LineCross& getLineCross() const { return lineCross_; }
+    void setLineCross(const LineCross& lineCross) { lineCross_ = lineCross; }
+
+private:
+    bool isBidirection_ = false;
+    int triggerDirection_ = 0;
+    LineCross lineCross_;
+};
+
+/// Objects that cross a line.
+class TripWireParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// What is watched.
+    /// @{
+    const std::vector<TripWireRegionParam>& getTripWireRegionParamList() const { return tripWireRegionParamList_; }
+    std::vector<TripWireRegionParam>& getTripWireRegionParamList() { return tripWireRegionParamList_; }
+    void setTripWireRegionParamList(const std::vector<TripWireRegionParam>& list) { tripWireRegionParamList_ = list; }
+    /// @}
+
+private:
+    bool isGetDetail_ = false;
+    std::vector<TripWireRegionParam> tripWireRegionParamList_;
+};
+
+/// Two lines that objects must not cross one after the other.
+class MultiTripWireRegionParam : public TargetRegionParam
+{
+public:
+    /// The time between the two, in the unit of the analysis service.
+    int getTimeInterval() const { return timeInterval_; }
+    void setTimeInterval(int timeInterval) { timeInterval_ = timeInterval; }
+
+    /// The direction across the first line that alarms, as the analysis service counts it.
+    int getTriggerDirection1() const { return triggerDirection1_; }
+    void setTriggerDirection1(int triggerDirection1) { triggerDirection1_ = triggerDirection1; }
+
+    /// The direction across the second line that alarms, as the analysis service counts it.
+    int getTriggerDirection2() const { return triggerDirection2_; }
+    void setTriggerDirection2(int triggerDirection2) { triggerDirection2_ = triggerDirection2; }
+
+    /// The first line.
+    const LineCross& getTripWireLine1() const { return tripWireLine1_; }
+    void setTripWireLine1(const LineCross& tripWireLine1) { tripWireLine1_ = tripWireLine1; }
+
+    /// The second line.
+    const LineCross& getTripWireLine2() const { return tripWireLine2_; }
+    void setTripWireLine2(const LineCross& tripWireLine2) { tripWireLine2_ = tripWireLine2; }
+
+private:
+    int timeInterval_ = 0;
+    int triggerDirection1_ = 0;
+    int triggerDirection2_ = 0;
+    LineCross tripWireLine1_;
+    LineCross tripWireLine2_;
+};
+
+/// Objects that cross two lines.
+class MultiTripWireParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// What is watched.
+    /// @{
+    const std::vector<MultiTripWireRegionParam>& getMultiTripWireRegionParamList() const
+    {
+        return multiTripWireRegionParamList_;
+    }
+    std::vector<MultiTripWireRegionParam>& getMultiTripWireRegionParamList() { return multiTripWireRegionParamList_; }
+    void setMultiTripWireRegionParamList(const std::vector<MultiTripWireRegionParam>& list)
+    {
+        multiTripWireRegionParamList_ = list;
+    }
+    /// @}
+
+private:
+    bool isGetDetail_ = false;
+    std::vector<MultiTripWireRegionParam> multiTripWireRegionParamList_;
+};
+
+/// A region that objects must not enter.
+class PerimeterRegionParam : public TargetRegionParam
+{
+public:
+    /// How readily it alarms, as the analysis service counts it.
+    int getSensitivity() const { return sensitivity_; }
+    void setSensitivity(int sensitivity) { sensitivity_ = sensitivity; }
+
+    /// The region.
+    /// @{
+    const PolygonArea& getRegion() const { return region_; }
+    PolygonArea& getRegion() { return region_; }
+    void setRegion(const PolygonArea& region) { region_ = region; }
+    /// @}
+
+    /// The same region as a map of cells.
+    const DetectionAreaV2& getDetectionAreaV2() const { return detectionAreaV2_; }
+    void setDetectionAreaV2(const DetectionAreaV2& detectionAreaV2) { detectionAreaV2_ = detectionAreaV2; }
+
+private:
+    int sensitivity_ = 0;
+    PolygonArea region_;
+    DetectionAreaV2 detectionAreaV2_;
+};
+
+/// Objects that enter a region.
+class PerimeterParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// What is watched.
+    /// @{
+    const std::vector<PerimeterRegionParam>& getPerimeterRegionParamList() const { return perimeterRegionParamList_; }
+    std::vector<PerimeterRegionParam>& getPerimeterRegionParamList() { return perimeterRegionParamList_; }
+    void setPerimeterRegionParamList(const std::vector<PerimeterRegionParam>& list)
+    {
+        perimeterRegionParamList_ = list;
+    }
+    /// @}
+
+private:
+    bool isGetDetail_ = false;
+    std::vector<PerimeterRegionParam> perimeterRegionParamList_;
+};
+
+/// A region that objects must not loiter in.
+class LoiterRegionParam : public TargetRegionParam
+{
+public:
+    /// The time from which on it alarms, in the unit of the analysis service.
+    int getMinTime() const { return minTime_; }
+    void setMinTime(int minTime) { minTime_ = minTime; }
+
+    /// Whether the way of the objects is followed.
+    bool getAnalysisPath() const { return analysisPath_; }
+    void setAnalysisPath(bool analysisPath) { analysisPath_ = analysisPath; }
+
+    /// The region.
+    /// @{
+    const PolygonArea& getRegion() const { return region_; }
+    PolygonArea& getRegion() { return region_; }
+    void setRegion(const PolygonArea& region) { region_ = region; }
+    /// @}
+
+private:
+    int minTime_ = 0;
+    bool analysisPath_ = false;
+    PolygonArea region_;
+};
+
+/// Objects that loiter.
+class LoiterParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// What is watched.
+    /// @{
+    const std::vector<LoiterRegionParam>& getLoiterRegionParamList() const { return loiterRegionParamList_; }
+    std::vector<LoiterRegionParam>& getLoiterRegionParamList() { return loiterRegionParamList_; }
+    void setLoiterRegionParamList(const std::vector<LoiterRegionParam>& list) { loiterRegionParamList_ = list; }
+    /// @}
+
+private:
+    bool isGetDetail_ = false;
+    std::vector<LoiterRegionParam> loiterRegionParamList_;
+};
+
+/// A region that several objects must not loiter in.
+class MultiLoiterRegionParam : public LingerRegionParam
+{
+public:
+    /// Whether the size of the objects is looked at.
+    bool getTargetSizeConstrain() const { return targetSizeConstrain_; }
+    void setTargetSizeConstrain(bool targetSizeConstrain) { targetSizeConstrain_ = targetSizeConstrain; }
+
+    /// Whether the way of the objects is followed.
+    bool getAnalysisPath() const { return analysisPath_; }
+    void setAnalysisPath(bool analysisPath) { analysisPath_ = analysisPath; }
+
+    /// Whether it is forbidden to be there at all.
+    bool getForbiddenType() const { return forbiddenType_; }
+    void setForbiddenType(bool forbiddenType) { forbiddenType_ = forbiddenType; }
+
+    /// The least number of objects.
+    int getMinimum() const { return minimum_; }
+    void setMinimum(int minimum) { minimum_ = minimum; }
+
+    /// The largest number of objects.
+    int getMaximum() const { return maximum_; }
+    void setMaximum(int maximum) { maximum_ = maximum; }
+
+private:
+    bool targetSizeConstrain_ = false;
+    bool analysisPath_ = false;
+    bool forbiddenType_ = false;
+    int minimum_ = 0;
+    int maximum_ = 0;
+};
+
+/// Several objects that loiter.
+class MultiLoiterParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// What is watched.
+    /// @{
+    const std::vector<MultiLoiterRegionParam>& getMultiLoiterRegionParamList() const
+    {
+        return multiLoiterRegionParamList_;
+    }
+    std::vector<MultiLoiterRegionParam>& getMultiLoiterRegionParamList() { return multiLoiterRegionParamList_; }
+    void setMultiLoiterRegionParamList(const std::vector<MultiLoiterRegionParam>& list)
+    {
+        multiLoiterRegionParamList_ = list;
+    }
+    /// @}
+
+private:
+    bool isGetDetail_ = false;
+    std::vector<MultiLoiterRegionParam> multiLoiterRegionParamList_;
+};
+
+/// A region with one permitted direction.
+class ConverseRegionParam : public TargetRegionParam
+{
+public:
+    /// The angle from which on a direction is wrong, in degrees.
+    float getConverseAngle() const { return converseAngle_; }
+    void setConverseAngle(float converseAngle) { converseAngle_ = converseAngle; }
+
+    /// The region.
+    /// @{
+    const PolygonArea& getRegion() const { return region_; }
+    PolygonArea& getRegion() { return region_; }
+    void setRegion(const PolygonArea& region) { region_ = region; }
+    /// @}
+
+private:
+    float converseAngle_ = 0.0F;
+    PolygonArea region_;
+};
+
+/// Objects that move against the permitted direction.
+class ConverseParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// What is watched.
+    /// @{
+    const std::vector<ConverseRegionParam>& getConverseRegionParamList() const { return converseRegionParamList_; }
+    std::vector<ConverseRegionParam>& getConverseRegionParamList() { return converseRegionParamList_; }
+    void setConverseRegionParamList(const std::vector<ConverseRegionParam>& list) { converseRegionParamList_ = list; }
+    /// @}
+
+private:
+    bool isGetDetail_ = false;
+    std::vector<ConverseRegionParam> converseRegionParamList_;
+};
+
+/// A region with a range of permitted speeds.
+class AbnormalSpeedRegionParam : public TargetRegionParam
+{
+public:
+    /// Which speeds alarm, as the analysis service numbers it.
+    int getRateLimitingType() const { return rateLimitingType_; }
+    void setRateLimitingType(int rateLimitingType) { rateLimitingType_ = rateLimitingType; }
+
+    /// The lowest speed, in the unit of the analysis service.
+    int getMinRate() const { return minRate_; }
+    void setMinRate(int minRate) { minRate_ = minRate; }
+
+    /// The highest speed, in the same unit.
+    int getMaxRate() const { return maxRate_; }
+    void setMaxRate(int maxRate) { maxRate_ = maxRate; }
+
+    /// The region.
+    /// @{
+    const PolygonArea& getRegion() const { return region_; }
+    PolygonArea& getRegion() { return region_; }
+    void setRegion(const PolygonArea& region) { region_ = region; }
+    /// @}
+
+private:
+    int rateLimitingType_ = 0;
+    int minRate_ = 0;
+    int maxRate_ = 0;
+    PolygonArea region_;
+};
+
+/// Objects that are too fast or too slow.
+class AbnormalSpeedParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// What is watched.
+    /// @{
+    const std::vector<AbnormalSpeedRegionParam>& getAbnormalSpeedRegionParamList() const
+    {
+        return abnormalSpeedRegionParamList_;
+    }
+    std::vector<AbnormalSpeedRegionParam>& getAbnormalSpeedRegionParamList() { return abnormalSpeedRegionParamList_; }
+    void setAbnormalSpeedRegionParamList(const std::vector<AbnormalSpeedRegionParam>& list)
+    {
+        abnormalSpeedRegionParamList_ = list;
+    }
+    /// @}
+
+private:
+    bool isGetDetail_ = false;
+    std::vector<AbnormalSpeedRegionParam> abnormalSpeedRegionParamList_;
+};
+
+/// A region that vehicles must not park in.
+class NoParkingRegionParam : public LingerRegionParam
+{
+};
+
+/// Vehicles that park.
+class NoParkingParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// What is watched.
+    /// @{
+    const std::vector<NoParkingRegionParam>& getNoParkingRegionParamList() const { return noParkingRegionParamList_; }
+    std::vector<NoParkingRegionParam>& getNoParkingRegionParamList() { return noParkingRegionParamList_; }
+    void setNoParkingRegionParamList(const std::vector<NoParkingRegionParam>& list)
+    {
+        noParkingRegionParamList_ = list;
+    }
+    /// @}
+
+private:
+    bool isGetDetail_ = false;
+    std::vector<NoParkingRegionParam> noParkingRegionParamList_;
+};
+
+/// A region that no object may be left in.
+class ObjectLeftRegionParam : public LingerRegionParam
+{
+};
+
+/// Objects that are left behind.
+class ObjectLeftParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// What is watched.
+    /// @{
+    const std::vector<ObjectLeftRegionParam>& getObjectLeftRegionParamList() const
+    {
+        return objectLeftRegionParamList_;
+    }
+    std::vector<ObjectLeftRegionParam>& getObjectLeftRegionParamList() { return objectLeftRegionParamList_; }
+    void setObjectLeftRegionParamList(const std::vector<ObjectLeftRegionParam>& list)
+    {
+        objectLeftRegionParamList_ = list;
+    }
+    /// @}
+
+private:
+    bool isGetDetail_ = false;
+    std::vector<ObjectLeftRegionParam> objectLeftRegionParamList_;
+};
+
+/// A region that no object may be taken from.
+class ObjectMovedRegionParam : public LingerRegionParam
+{
+};
+
+/// Objects that are taken away.
+class ObjectMovedParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// What is watched.
+    /// @{
+    const std::vector<ObjectMovedRegionParam>& getObjectMovedRegionParamList() const
+    {
+        return objectMovedRegionParamList_;
+    }
+    std::vector<ObjectMovedRegionParam>& getObjectMovedRegionParamList() { return objectMovedRegionParamList_; }
+    void setObjectMovedRegionParamList(const std::vector<ObjectMovedRegionParam>& list)
+    {
+        objectMovedRegionParamList_ = list;
+    }
+    /// @}
+
+private:
+    bool isGetDetail_ = false;
+    std::vector<ObjectMovedRegionParam> objectMovedRegionParamList_;
+};
+
+/// A camera that is turned away.
+class CameraMovedParam : public IntelligeBaseParam
+{
+};
+
+/// Pictures of bad quality.
+class SignalBadParam : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+private:
+    bool isGetDetail_ = false;
+};
+
+/// A camera that is covered.
+class CameraTamperParam : public IntelligeBaseParam
+{
+public:
+    /// The time from which on it alarms, in the unit of the analysis service.
+    int getMinTime() const { return minTime_; }
+    void setMinTime(int minTime) { minTime_ = minTime; }
+
+private:
+    int minTime_ = 0;
+};
+
+/// Motion in some cells of the picture.
+class MotionDetectionParamV3 : public IntelligeBaseParam
+{
+public:
+    /// Whether its alarms come with details.
+    bool getIsGetDetail() const { return isGetDetail_; }
+    void setIsGetDetail(bool isGetDetail) { isGetDetail_ = isGetDetail; }
+
+    /// The cells.
+    const DetectionAreaV2& getDetectionAreaV2() const { return detectionAreaV2_; }
+    void setDetectionAreaV2(const DetectionAreaV2& detectionAreaV2) { detectionAreaV2_ = detectionAreaV2; }
+
+private:
+    bool isGetDetail_ = false;
+    DetectionAreaV2 detectionAreaV2_;
+};
+
+/// A line on the picture whose real length is known.
+class PixelToRealSize
+{
+public:
+    /// The length, in the unit of the analysis service.
+    int getRealSize() const { return realSize_; }
+    void setRealSize(int realSize) { realSize_ = realSize; }
+
+    /// How the line lies, as the analysis service numbers it.
+    int getSegmentLayType() const { return segmentLayType_; }
+    void setSegmentLayType(int segmentLayType) { segmentLayType_ = segmentLayType; }
+
+    /// The line.
+    const LineCross& getSegment() const { return segment_; }
+    void setSegment(const LineCross& segment) { segment_ = segment; }
+
+private:
+    int realSize_ = 0;
+    int segmentLayType_ = 0;
+    LineCross segment_;
+};
+
+/// The scene that an analysis looks at.
+class AdvancedParam
+{
+public:
+    /// The sort of the scene, as the analysis service numbers it.
+    int getScene() const { return scene_; }
+    void setScene(int scene) { scene_ = scene; }
+
+    /// How high the camera hangs.
+    int getHight() const { return hight_; }
+    void setHight(int hight) { hight_ = hight; }
+
+    /// How far it looks down, in degrees.
+    float getAngle() const { return angle_; }
+    void setAngle(float angle) { angle_ = angle; }
+
+    /// The width of its view, in degrees.
+    float getFOV() const { return fov_; }
+    void setFOV(float fov) { fov_ = fov; }
+
+    /// How far it shakes.
+    int getCameraShake() const { return cameraShake_; }
+    void setCameraShake(int cameraShake) { cameraShake_ = cameraShake; }
+
+    /// How noisy the picture is.
+    int getHighNoise() const { return highNoise_; }
+    void setHighNoise(int highNoise) { highNoise_ = highNoise; }
+
+    /// How flat the picture is.
+    int getLowContrast() const { return lowContrast_; }
+    void setLowContrast(int lowContrast) { lowContrast_ = lowContrast; }
+
+    /// How much moves to and fro.
+    int getPeriodMotion() const { return periodMotion_; }
+    void setPeriodMotion(int periodMotion) { periodMotion_ = periodMotion; }
+
+    /// The period of that.
+    int getPeriodMotionTime() const { return periodMotionTime_; }
+    void setPeriodMotionTime(int periodMotionTime) { periodMotionTime_ = periodMotionTime; }
+
+    /// Lines of known length.
+    /// @{
+    const std::vector<PixelToRealSize>& getPixelToRealSizeList() const { return pixelToRealSizeList_; }
+    std::vector<PixelToRealSize>& getPixelToRealSizeList() { return pixelToRealSizeList_; }
+    void setPixelToRealSizeList(const std::vector<PixelToRealSize>& list) { pixelToRealSizeList_ = list; }
+    /// @}
+
+private:
+    int scene_ = 0;
+    int hight_ = 0;
+    float angle_ = 0.0F;
+    float fov_ = 0.0F;
+    int cameraShake_ = 0;
+    int highNoise_ = 0;
+    int lowContrast_ = 0;
+    int periodMotion_ = 0;
+    int periodMotionTime_ = 0;
+    std::vector<PixelToRealSize> pixelToRealSizeList_;
 };

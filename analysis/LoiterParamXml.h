@@ -1,0 +1,45 @@
+#pragma once
+
+#include "analysis/IntelligeBaseParamXml.h"
+#include "domain/AnalysisRecords.h"
+#include "domain/DomainXmlNode.h"
+
+#include <string>
+#include <vector>
+
+/// Objects that loiter: the "LoiterParam" document.
+///
+/// A missing property gives 0 or false, but a "TargetType" 1, a "MinTargetSize" 1000 and a "MaxTargetSize" 100000; a
+/// missing base part or "RegionList" gives an empty one. A region without its "PolygonArealist" fails the rule. What is
+/// read takes the place of all that the record held; a failure leaves it as it was.
+class LoiterParamXml : public IntelligeBaseParamXml
+{
+public:
+    LoiterParamXml();
+    ~LoiterParamXml() override;
+
+    /// @name Node form
+    /// See IDomainXml.
+    /// @{
+    bool createDomainXmlNode(const LoiterParam& param, SafePointer<DomainXmlNode>& node) const;
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, LoiterParam& param) const;
+    bool createXmlString(const LoiterParam& param, std::string& text) const;
+    bool parseXmlString(const std::string& text, LoiterParam& param) const;
+    /// @}
+
+    /// Adds the container "RegionList" with the regions to @p node. False if that is empty.
+    bool createLoiterRegionParamListToDomainXmlNode(const std::vector<LoiterRegionParam>& regions,
+                                                    SafePointer<DomainXmlNode>& node) const;
+
+    /// Adds the element "PolygonArealist" to @p node. False if that is empty.
+    bool createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node) const;
+    /// Reads the child "PolygonArealist" of @p node behind what @p area holds. False without it.
+    bool parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area) const;
+
+private:
+    // A rule is written and read as a whole: what the base does with its own part is hidden.
+    using IntelligeBaseParamXml::createDomainXmlNode;
+    using IntelligeBaseParamXml::createXmlString;
+    using IntelligeBaseParamXml::parseDomainXmlNode;
+    using IntelligeBaseParamXml::parseXmlString;
+};

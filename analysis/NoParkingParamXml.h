@@ -1,0 +1,45 @@
+#pragma once
+
+#include "analysis/IntelligeBaseParamXml.h"
+#include "domain/AnalysisRecords.h"
+#include "domain/DomainXmlNode.h"
+
+#include <string>
+#include <vector>
+
+/// Vehicles that park: the "NoParkingParam" document.
+///
+/// A missing property gives 0 or false; a missing base part or "RegionList" gives an empty one. A region without its
+/// "PolygonArealist" fails the rule. What is read takes the place of all that the record held; a failure leaves it as
+/// it was.
+class NoParkingParamXml : public IntelligeBaseParamXml
+{
+public:
+    NoParkingParamXml();
+    ~NoParkingParamXml() override;
+
+    /// @name Node form
+    /// See IDomainXml.
+    /// @{
+    bool createDomainXmlNode(const NoParkingParam& param, SafePointer<DomainXmlNode>& node) const;
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, NoParkingParam& param) const;
+    bool createXmlString(const NoParkingParam& param, std::string& text) const;
+    bool parseXmlString(const std::string& text, NoParkingParam& param) const;
+    /// @}
+
+    /// Adds the container "RegionList" with the regions to @p node. False if that is empty.
+    bool createNoParkingRegionParamListToDomainXmlNode(const std::vector<NoParkingRegionParam>& regions,
+                                                       SafePointer<DomainXmlNode>& node) const;
+
+    /// Adds the element "PolygonArealist" to @p node. False if that is empty.
+    bool createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node) const;
+    /// Reads the child "PolygonArealist" of @p node behind what @p area holds. False without it.
+    bool parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area) const;
+
+private:
+    // A rule is written and read as a whole: what the base does with its own part is hidden.
+    using IntelligeBaseParamXml::createDomainXmlNode;
+    using IntelligeBaseParamXml::createXmlString;
+    using IntelligeBaseParamXml::parseDomainXmlNode;
+    using IntelligeBaseParamXml::parseXmlString;
+};
