@@ -7,8 +7,10 @@
 
 #include "domain/CoreRecords.h"
 #include "domain/MediaRecords.h"
+#include "domain/PtzRecords.h"
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -1030,4 +1032,886 @@ public:
 private:
     int cameraId_ = 0;
     std::uint8_t recordStatus_ = 0;
+};
+
+/// What a device can do with sound, in the older description.
+class AudioAbility
+{
+public:
+    /// Whether its users can be talked to.
+    bool getInterPhoneFlag() const { return interPhoneFlag_; }
+    void setInterPhoneFlag(bool interPhoneFlag) { interPhoneFlag_ = interPhoneFlag; }
+
+    /// The encodings that it sends, as it numbers them.
+    /// @{
+    const std::vector<int>& getAudioEncodeTypeList() const { return audioEncodeTypeList_; }
+    std::vector<int>& getAudioEncodeTypeList() { return audioEncodeTypeList_; }
+    void setAudioEncodeTypeList(const std::vector<int>& audioEncodeTypeList)
+    {
+        audioEncodeTypeList_ = audioEncodeTypeList;
+    }
+    /// @}
+
+    /// The encodings that it plays, as it numbers them.
+    /// @{
+    const std::vector<int>& getAudioDecodeTypeList() const { return audioDecodeTypeList_; }
+    std::vector<int>& getAudioDecodeTypeList() { return audioDecodeTypeList_; }
+    void setAudioDecodeTypeList(const std::vector<int>& audioDecodeTypeList)
+    {
+        audioDecodeTypeList_ = audioDecodeTypeList;
+    }
+    /// @}
+
+    /// Its kinds of input, as it numbers them.
+    /// @{
+    const std::vector<int>& getAudioInTypeList() const { return audioInTypeList_; }
+    std::vector<int>& getAudioInTypeList() { return audioInTypeList_; }
+    void setAudioInTypeList(const std::vector<int>& audioInTypeList) { audioInTypeList_ = audioInTypeList; }
+    /// @}
+
+private:
+    bool interPhoneFlag_ = false;
+    std::vector<int> audioEncodeTypeList_;
+    std::vector<int> audioDecodeTypeList_;
+    std::vector<int> audioInTypeList_;
+};
+
+/// An encoding of sound that a device plays.
+class AudioDecodeType
+{
+public:
+    /// Its number on the device.
+    int getAudioDecodeTypeId() const { return audioDecodeTypeId_; }
+    void setAudioDecodeTypeId(int audioDecodeTypeId) { audioDecodeTypeId_ = audioDecodeTypeId; }
+
+    /// Its name, for users.
+    const std::string& getAudioDecodeTypeName() const { return audioDecodeTypeName_; }
+    void setAudioDecodeTypeName(const std::string& audioDecodeTypeName) { audioDecodeTypeName_ = audioDecodeTypeName; }
+
+private:
+    int audioDecodeTypeId_ = 0;
+    std::string audioDecodeTypeName_;
+};
+
+/// An encoding of sound that a device sends.
+class AudioEncodeType
+{
+public:
+    /// Its number on the device.
+    int getAudioEncodeTypeId() const { return audioEncodeTypeId_; }
+    void setAudioEncodeTypeId(int audioEncodeTypeId) { audioEncodeTypeId_ = audioEncodeTypeId; }
+
+    /// Its name, for users.
+    const std::string& getAudioEncodeTypeName() const { return audioEncodeTypeName_; }
+    void setAudioEncodeTypeName(const std::string& audioEncodeTypeName) { audioEncodeTypeName_ = audioEncodeTypeName; }
+
+private:
+    int audioEncodeTypeId_ = 0;
+    std::string audioEncodeTypeName_;
+};
+
+/// A kind of input for sound.
+class AudioInType
+{
+public:
+    /// Its number on the device.
+    int getAudioInTypeId() const { return audioInTypeId_; }
+    void setAudioInTypeId(int audioInTypeId) { audioInTypeId_ = audioInTypeId; }
+
+    /// Its name, for users.
+    const std::string& getAudioInTypeName() const { return audioInTypeName_; }
+    void setAudioInTypeName(const std::string& audioInTypeName) { audioInTypeName_ = audioInTypeName; }
+
+private:
+    int audioInTypeId_ = 0;
+    std::string audioInTypeName_;
+};
+
+/// A kind of output for sound.
+class AudioOutType
+{
+public:
+    /// Its number on the device.
+    int getAudioOutTypeId() const { return audioOutTypeId_; }
+    void setAudioOutTypeId(int audioOutTypeId) { audioOutTypeId_ = audioOutTypeId; }
+
+    /// Its name, for users.
+    const std::string& getAudioOutTypeName() const { return audioOutTypeName_; }
+    void setAudioOutTypeName(const std::string& audioOutTypeName) { audioOutTypeName_ = audioOutTypeName; }
+
+private:
+    int audioOutTypeId_ = 0;
+    std::string audioOutTypeName_;
+};
+
+/// What a device can do with sound.
+class AudioExAbility
+{
+public:
+    /// Whether its users can be talked to.
+    bool getInterPhoneFlag() const { return interPhoneFlag_; }
+    void setInterPhoneFlag(bool interPhoneFlag) { interPhoneFlag_ = interPhoneFlag; }
+
+    /// Whether it takes sound in.
+    bool getAudioInFlag() const { return audioInFlag_; }
+    void setAudioInFlag(bool audioInFlag) { audioInFlag_ = audioInFlag; }
+
+    /// Its kinds of input.
+    /// @{
+    const std::vector<AudioInType>& getAudioInTypeList() const { return audioInTypeList_; }
+    std::vector<AudioInType>& getAudioInTypeList() { return audioInTypeList_; }
+    void setAudioInTypeList(const std::vector<AudioInType>& audioInTypeList) { audioInTypeList_ = audioInTypeList; }
+    /// @}
+
+    /// Whether it gives sound out.
+    bool getAudioOutFlag() const { return audioOutFlag_; }
+    void setAudioOutFlag(bool audioOutFlag) { audioOutFlag_ = audioOutFlag; }
+
+    /// Its kinds of output.
+    /// @{
+    const std::vector<AudioOutType>& getAudioOutTypeList() const { return audioOutTypeList_; }
+    std::vector<AudioOutType>& getAudioOutTypeList() { return audioOutTypeList_; }
+    void setAudioOutTypeList(const std::vector<AudioOutType>& audioOutTypeList)
+    {
+        audioOutTypeList_ = audioOutTypeList;
+    }
+    /// @}
+
+    /// The encodings that it sends.
+    /// @{
+    const std::vector<AudioEncodeType>& getAudioEncodeTypeList() const { return audioEncodeTypeList_; }
+    std::vector<AudioEncodeType>& getAudioEncodeTypeList() { return audioEncodeTypeList_; }
+    void setAudioEncodeTypeList(const std::vector<AudioEncodeType>& audioEncodeTypeList)
+    {
+        audioEncodeTypeList_ = audioEncodeTypeList;
+    }
+    /// @}
+
+    /// The encodings that it plays.
+    /// @{
+    const std::vector<AudioDecodeType>& getAudioDecodeTypeList() const { return audioDecodeTypeList_; }
+    std::vector<AudioDecodeType>& getAudioDecodeTypeList() { return audioDecodeTypeList_; }
+    void setAudioDecodeTypeList(const std::vector<AudioDecodeType>& audioDecodeTypeList)
+    {
+        audioDecodeTypeList_ = audioDecodeTypeList;
+    }
+    /// @}
+
+private:
+    bool interPhoneFlag_ = false;
+    bool audioInFlag_ = false;
+    std::vector<AudioInType> audioInTypeList_;
+    bool audioOutFlag_ = false;
+    std::vector<AudioOutType> audioOutTypeList_;
+    std::vector<AudioEncodeType> audioEncodeTypeList_;
+    std::vector<AudioDecodeType> audioDecodeTypeList_;
+};
+
+/// What a camera can do to hide areas of its picture, as part of its configuration.
+class BlindAbilityConfigure
+{
+public:
+    /// How many areas it can hide.
+    int getMaxBlindAreaNum() const { return maxBlindAreaNum_; }
+    void setMaxBlindAreaNum(const int& maxBlindAreaNum) { maxBlindAreaNum_ = maxBlindAreaNum; }
+
+    /// Largest width of one, as the device scales it.
+    int getBlindWidth() const { return blindWidth_; }
+    void setBlindWidth(const int& blindWidth) { blindWidth_ = blindWidth; }
+
+    /// Largest height of one, as the device scales it.
+    int getBlindHeight() const { return blindHeight_; }
+    void setBlindHeight(const int& blindHeight) { blindHeight_ = blindHeight; }
+
+    /// Kind of cover, as the device numbers it.
+    int getBlindType() const { return blindType_; }
+    void setBlindType(const int& blindType) { blindType_ = blindType; }
+
+private:
+    int maxBlindAreaNum_ = 0;
+    int blindWidth_ = 0;
+    int blindHeight_ = 0;
+    int blindType_ = 0;
+};
+
+/// What a camera can do to hide areas of its picture.
+class BlindAbility
+{
+public:
+    /// How many areas it can hide.
+    int getMaxBlindAreaNum() const { return maxBlindAreaNum_; }
+    void setMaxBlindAreaNum(int maxBlindAreaNum) { maxBlindAreaNum_ = maxBlindAreaNum; }
+
+    /// How large they may be, as the device scales it.
+    int getBlindArea() const { return blindArea_; }
+    void setBlindArea(int blindArea) { blindArea_ = blindArea; }
+
+    /// Kind of cover, as the device numbers it.
+    int getBlindType() const { return blindType_; }
+    void setBlindType(int blindType) { blindType_ = blindType; }
+
+private:
+    int maxBlindAreaNum_ = 0;
+    int blindArea_ = 0;
+    int blindType_ = 0;
+};
+
+/// A file system that a device can put on a disk.
+class FileSystem
+{
+public:
+    /// Its number on the device.
+    int getFileSystemType() const { return fileSystemType_; }
+    void setFileSystemType(int fileSystemType) { fileSystemType_ = fileSystemType; }
+
+    /// Its name, for users.
+    const std::string& getFileSystemName() const { return fileSystemName_; }
+    void setFileSystemName(const std::string& fileSystemName) { fileSystemName_ = fileSystemName; }
+
+private:
+    int fileSystemType_ = 0;
+    std::string fileSystemName_;
+};
+
+/// A use to which a device can put a disk.
+class DiskAttributeEx
+{
+public:
+    /// Its number on the device.
+    int getDiskAttribute() const { return diskAttribute_; }
+    void setDiskAttribute(int diskAttribute) { diskAttribute_ = diskAttribute; }
+
+    /// Its name, for users.
+    const std::string& getAttributeName() const { return attributeName_; }
+    void setAttributeName(const std::string& attributeName) { attributeName_ = attributeName; }
+
+private:
+    int diskAttribute_ = 0;
+    std::string attributeName_;
+};
+
+/// What a device can do with disks of one kind.
+class FileSystemAbility
+{
+public:
+    /// The kind of disk, as the device numbers it.
+    int getDiskType() const { return diskType_; }
+    void setDiskType(int diskType) { diskType_ = diskType; }
+
+    /// The file systems that it can put on them.
+    /// @{
+    const std::vector<FileSystem>& getFileSystemList() const { return fileSystemList_; }
+    std::vector<FileSystem>& getFileSystemList() { return fileSystemList_; }
+    void setFileSystemList(const std::vector<FileSystem>& fileSystemList) { fileSystemList_ = fileSystemList; }
+    /// @}
+
+    /// The uses to which it can put them.
+    /// @{
+    const std::vector<DiskAttributeEx>& getDiskAttributeList() const { return diskAttributeList_; }
+    std::vector<DiskAttributeEx>& getDiskAttributeList() { return diskAttributeList_; }
+    void setDiskAttributeList(const std::vector<DiskAttributeEx>& diskAttributeList)
+    {
+        diskAttributeList_ = diskAttributeList;
+    }
+    /// @}
+
+private:
+    int diskType_ = 0;
+    std::vector<FileSystem> fileSystemList_;
+    std::vector<DiskAttributeEx> diskAttributeList_;
+};
+
+/// Whether a device can reach mobile networks of the third generation.
+class I3GAbilityParam
+{
+public:
+    /// True if it can.
+    bool getSupportFlag() const { return supportFlag_; }
+    void setSupportFlag(bool supportFlag) { supportFlag_ = supportFlag; }
+
+    /// Name of its modem.
+    const std::string& get3GDeviceName() const { return deviceName_; }
+    void set3GDeviceName(const std::string& deviceName) { deviceName_ = deviceName; }
+
+private:
+    bool supportFlag_ = false;
+    std::string deviceName_;
+};
+
+/// How finely a camera detects motion, as part of its configuration.
+class MotionDetectionAbilityConfigure
+{
+public:
+    /// Least sensitivity.
+    int getMinSensitivity() const { return minSensitivity_; }
+    void setMinSensitivity(const int& minSensitivity) { minSensitivity_ = minSensitivity; }
+
+    /// Greatest sensitivity.
+    int getMaxSensitivity() const { return maxSensitivity_; }
+    void setMaxSensitivity(const int& maxSensitivity) { maxSensitivity_ = maxSensitivity; }
+
+    /// Most cells side by side.
+    int getMaxWidthCellNumber() const { return maxWidthCellNumber_; }
+    void setMaxWidthCellNumber(const int& maxWidthCellNumber) { maxWidthCellNumber_ = maxWidthCellNumber; }
+
+    /// Most cells one above the other.
+    int getMaxHeightCellNumber() const { return maxHeightCellNumber_; }
+    void setMaxHeightCellNumber(const int& maxHeightCellNumber) { maxHeightCellNumber_ = maxHeightCellNumber; }
+
+    /// The sensitivity without a setting.
+    int getDefaultSensitivity() const { return defaultSensitivity_; }
+    void setDefaultSensitivity(const int& defaultSensitivity) { defaultSensitivity_ = defaultSensitivity; }
+
+    /// The cells side by side without a setting.
+    int getDefaultWidthCellNumber() const { return defaultWidthCellNumber_; }
+    void setDefaultWidthCellNumber(const int& defaultWidthCellNumber)
+    {
+        defaultWidthCellNumber_ = defaultWidthCellNumber;
+    }
+
+    /// The cells one above the other without a setting.
+    int getDefaultHeightCellNumber() const { return defaultHeightCellNumber_; }
+    void setDefaultHeightCellNumber(const int& defaultHeightCellNumber)
+    {
+        defaultHeightCellNumber_ = defaultHeightCellNumber;
+    }
+
+private:
+    int minSensitivity_ = 0;
+    int maxSensitivity_ = 0;
+    int maxWidthCellNumber_ = 0;
+    int maxHeightCellNumber_ = 0;
+    int defaultSensitivity_ = 0;
+    int defaultWidthCellNumber_ = 0;
+    int defaultHeightCellNumber_ = 0;
+};
+
+/// How finely a camera detects motion in pictures of one format, in the older description.
+class MotionDetectionAbility
+{
+public:
+    /// The format's number on the device.
+    int getImageFormatId() const { return imageFormatId_; }
+    void setImageFormatId(int imageFormatId) { imageFormatId_ = imageFormatId; }
+
+    /// Greatest sensitivity.
+    int getMaxSensitivity() const { return maxSensitivity_; }
+    void setMaxSensitivity(int maxSensitivity) { maxSensitivity_ = maxSensitivity; }
+
+    /// Least number of frames from one comparison to the next.
+    int getMinFrameInterval() const { return minFrameInterval_; }
+    void setMinFrameInterval(int minFrameInterval) { minFrameInterval_ = minFrameInterval; }
+
+private:
+    int imageFormatId_ = 0;
+    int maxSensitivity_ = 0;
+    int minFrameInterval_ = 0;
+};
+
+/// How finely a camera detects motion.
+class MotionDetectionExAbility
+{
+public:
+    /// Greatest sensitivity.
+    int getMaxSensitivity() const { return maxSensitivity_; }
+    void setMaxSensitivity(int maxSensitivity) { maxSensitivity_ = maxSensitivity; }
+
+    /// Least sensitivity.
+    int getMinSensitivity() const { return minSensitivity_; }
+    void setMinSensitivity(int minSensitivity) { minSensitivity_ = minSensitivity; }
+
+    /// The sensitivity without a setting.
+    int getDefualSensitivity() const { return defualSensitivity_; }
+    void setDefualSensitivity(int defualSensitivity) { defualSensitivity_ = defualSensitivity; }
+
+    /// The cells side by side without a setting.
+    int getDefualWidthCellNumber() const { return defualWidthCellNumber_; }
+    void setDefualWidthCellNumber(int defualWidthCellNumber) { defualWidthCellNumber_ = defualWidthCellNumber; }
+
+    /// The cells one above the other without a setting.
+    int getDefualHighCellNumber() const { return defualHighCellNumber_; }
+    void setDefualHighCellNumber(int defualHighCellNumber) { defualHighCellNumber_ = defualHighCellNumber; }
+
+    /// Most cells side by side.
+    int getMaxWidthCellNumber() const { return maxWidthCellNumber_; }
+    void setMaxWidthCellNumber(int maxWidthCellNumber) { maxWidthCellNumber_ = maxWidthCellNumber; }
+
+    /// Fewest cells side by side.
+    int getMinWidthCellNumber() const { return minWidthCellNumber_; }
+    void setMinWidthCellNumber(int minWidthCellNumber) { minWidthCellNumber_ = minWidthCellNumber; }
+
+    /// Most cells one above the other.
+    int getMaxHighCellNumber() const { return maxHighCellNumber_; }
+    void setMaxHighCellNumber(int maxHighCellNumber) { maxHighCellNumber_ = maxHighCellNumber; }
+
+    /// Fewest cells one above the other.
+    int getMinHighCellNumber() const { return minHighCellNumber_; }
+    void setMinHighCellNumber(int minHighCellNumber) { minHighCellNumber_ = minHighCellNumber; }
+
+private:
+    int maxSensitivity_ = 0;
+    int minSensitivity_ = 0;
+    int defualSensitivity_ = 0;
+    int defualWidthCellNumber_ = 0;
+    int defualHighCellNumber_ = 0;
+    int maxWidthCellNumber_ = 0;
+    int minWidthCellNumber_ = 0;
+    int maxHighCellNumber_ = 0;
+    int minHighCellNumber_ = 0;
+};
+
+/// What a device can do with pan-tilt-zoom heads.
+class PTZAbility
+{
+public:
+    /// Whether it has a head of its own.
+    bool getInternalPTZFlag() const { return internalPTZFlag_; }
+    void setInternalPTZFlag(bool internalPTZFlag) { internalPTZFlag_ = internalPTZFlag; }
+
+    /// Whether a head can be sent to a spot marked in the picture.
+    bool getThreeDimensionalPositioningFlag() const { return threeDimensionalPositioningFlag_; }
+    void setThreeDimensionalPositioningFlag(bool threeDimensionalPositioningFlag)
+    {
+        threeDimensionalPositioningFlag_ = threeDimensionalPositioningFlag;
+    }
+
+    /// Most preset positions.
+    int getMaxPresetCount() const { return maxPresetCount_; }
+    void setMaxPresetCount(int maxPresetCount) { maxPresetCount_ = maxPresetCount; }
+
+    /// Most scans.
+    int getMaxScanCount() const { return maxScanCount_; }
+    void setMaxScanCount(int maxScanCount) { maxScanCount_ = maxScanCount; }
+
+    /// Most tracks that it can learn.
+    int getMaxAutoStudyCount() const { return maxAutoStudyCount_; }
+    void setMaxAutoStudyCount(int maxAutoStudyCount) { maxAutoStudyCount_ = maxAutoStudyCount; }
+
+    /// Most tours from preset to preset.
+    int getMaxTourCount() const { return maxTourCount_; }
+    void setMaxTourCount(int maxTourCount) { maxTourCount_ = maxTourCount; }
+
+    /// Whether it can switch a wiper.
+    bool getBrushFlag() const { return brushFlag_; }
+    void setBrushFlag(bool brushFlag) { brushFlag_ = brushFlag; }
+
+    /// Whether it can switch a lamp.
+    bool getLightFlag() const { return lightFlag_; }
+    void setLightFlag(bool lightFlag) { lightFlag_ = lightFlag; }
+
+    /// Whether it can switch an infrared lamp.
+    bool getInfraredFlag() const { return infraredFlag_; }
+    void setInfraredFlag(bool infraredFlag) { infraredFlag_ = infraredFlag; }
+
+    /// The protocols by which it drives heads.
+    /// @{
+    const std::vector<PTZProtocol>& getPTZProtocolList() const { return ptzProtocolList_; }
+    std::vector<PTZProtocol>& getPTZProtocolList() { return ptzProtocolList_; }
+    void setPTZProtocolList(const std::vector<PTZProtocol>& ptzProtocolList) { ptzProtocolList_ = ptzProtocolList; }
+    /// @}
+
+private:
+    bool internalPTZFlag_ = false;
+    bool threeDimensionalPositioningFlag_ = false;
+    int maxPresetCount_ = 0;
+    int maxScanCount_ = 0;
+    int maxAutoStudyCount_ = 0;
+    int maxTourCount_ = 0;
+    bool brushFlag_ = false;
+    bool lightFlag_ = false;
+    bool infraredFlag_ = false;
+    std::vector<PTZProtocol> ptzProtocolList_;
+};
+
+/// One version of a protocol.
+class ProtocolInfo
+{
+public:
+    /// The version, as text.
+    const std::string& getProtocolVersion() const { return protocolVersion_; }
+    void setProtocolVersion(const std::string& protocolVersion) { protocolVersion_ = protocolVersion; }
+
+private:
+    std::string protocolVersion_;
+};
+
+/// A protocol that a device speaks.
+class ProtocolType
+{
+public:
+    /// Its name.
+    const std::string& getProtocolName() const { return protocolName_; }
+    void setProtocolName(const std::string& protocolName) { protocolName_ = protocolName; }
+
+    /// The versions of it.
+    /// @{
+    const std::vector<ProtocolInfo>& getProtocolInfoList() const { return protocolInfoList_; }
+    std::vector<ProtocolInfo>& getProtocolInfoList() { return protocolInfoList_; }
+    void setProtocolInfoList(const std::vector<ProtocolInfo>& protocolInfoList)
+    {
+        protocolInfoList_ = protocolInfoList;
+    }
+    /// @}
+
+private:
+    std::string protocolName_;
+    std::vector<ProtocolInfo> protocolInfoList_;
+};
+
+/// The protocols that a device speaks.
+class ProtocolConfigAbility
+{
+public:
+    /// One entry for each.
+    /// @{
+    const std::vector<ProtocolType>& getProtocolTypeList() const { return protocolTypeList_; }
+    std::vector<ProtocolType>& getProtocolTypeList() { return protocolTypeList_; }
+    void setProtocolTypeList(const std::vector<ProtocolType>& protocolTypeList)
+    {
+        protocolTypeList_ = protocolTypeList;
+    }
+    /// @}
+
+private:
+    std::vector<ProtocolType> protocolTypeList_;
+};
+
+/// What a device can do to encode regions of a picture better than the rest.
+class ROIAbility
+{
+public:
+    /// Most regions.
+    int getROIMaxNum() const { return roiMaxNum_; }
+    void setROIMaxNum(int roiMaxNum) { roiMaxNum_ = roiMaxNum; }
+
+    /// Their largest share of the picture, as the device scales it.
+    int getROIMaxScale() const { return roiMaxScale_; }
+    void setROIMaxScale(int roiMaxScale) { roiMaxScale_ = roiMaxScale; }
+
+    /// Highest level of quality.
+    int getROIMaxLevel() const { return roiMaxLevel_; }
+    void setROIMaxLevel(int roiMaxLevel) { roiMaxLevel_ = roiMaxLevel; }
+
+    /// What each level changes in the quantisation parameter, by level.
+    /// @{
+    const std::map<int, int>& getLevelQPMap() const { return levelQPMap_; }
+    std::map<int, int>& getLevelQPMap() { return levelQPMap_; }
+    void setLevelQPMap(const std::map<int, int>& levelQPMap) { levelQPMap_ = levelQPMap; }
+    /// @}
+
+private:
+    int roiMaxNum_ = 0;
+    int roiMaxScale_ = 0;
+    int roiMaxLevel_ = 0;
+    std::map<int, int> levelQPMap_;
+};
+
+/// Whether a device can be found through its makers' name service.
+class ZentarDDNSAbility
+{
+public:
+    /// True if it can.
+    bool getZentarDDNSAbility() const { return zentarDDNSAbility_; }
+    void setZentarDDNSAbility(bool zentarDDNSAbility) { zentarDDNSAbility_ = zentarDDNSAbility; }
+
+    /// Name of the server.
+    const std::string& getZentarDDNSHostName() const { return zentarDDNSHostName_; }
+    void setZentarDDNSHostName(const std::string& zentarDDNSHostName) { zentarDDNSHostName_ = zentarDDNSHostName; }
+
+private:
+    bool zentarDDNSAbility_ = false;
+    std::string zentarDDNSHostName_;
+};
+
+/// A time zone that a device knows.
+class TimeZoneType
+{
+public:
+    /// Its number on the device.
+    int getTimeZoneID() const { return timeZoneID_; }
+    void setTimeZoneID(int timeZoneID) { timeZoneID_ = timeZoneID; }
+
+    /// Its name, for users.
+    const std::string& getTimeZoneName() const { return timeZoneName_; }
+    void setTimeZoneName(const std::string& timeZoneName) { timeZoneName_ = timeZoneName; }
+
+    /// Its abbreviation in standard time.
+    const std::string& getSTDTimeZoneAbbreviation() const { return stdTimeZoneAbbreviation_; }
+    void setSTDTimeZoneAbbreviation(const std::string& stdTimeZoneAbbreviation)
+    {
+        stdTimeZoneAbbreviation_ = stdTimeZoneAbbreviation;
+    }
+
+    /// Its abbreviation in daylight saving time.
+    const std::string& getDSTTimeZoneAbbreviation() const { return dstTimeZoneAbbreviation_; }
+    void setDSTTimeZoneAbbreviation(const std::string& dstTimeZoneAbbreviation)
+    {
+        dstTimeZoneAbbreviation_ = dstTimeZoneAbbreviation;
+    }
+
+private:
+    int timeZoneID_ = 0;
+    std::string timeZoneName_;
+    std::string stdTimeZoneAbbreviation_;
+    std::string dstTimeZoneAbbreviation_;
+};
+
+/// The time zones that a device knows.
+class TimeZoneAbility
+{
+public:
+    /// One entry for each.
+    /// @{
+    const std::vector<TimeZoneType>& getTimeZoneTypeList() const { return timeZoneTypeList_; }
+    std::vector<TimeZoneType>& getTimeZoneTypeList() { return timeZoneTypeList_; }
+    void setTimeZoneTypeList(const std::vector<TimeZoneType>& timeZoneTypeList)
+    {
+        timeZoneTypeList_ = timeZoneTypeList;
+    }
+    /// @}
+
+private:
+    std::vector<TimeZoneType> timeZoneTypeList_;
+};
+
+/// Whether a device can reach wireless networks.
+class WifiAbilityParam
+{
+public:
+    /// True if it can.
+    bool getSupportFlag() const { return supportFlag_; }
+    void setSupportFlag(bool supportFlag) { supportFlag_ = supportFlag; }
+
+    /// Name of its adapter.
+    const std::string& getWifiDeviceName() const { return wifiDeviceName_; }
+    void setWifiDeviceName(const std::string& wifiDeviceName) { wifiDeviceName_ = wifiDeviceName; }
+
+private:
+    bool supportFlag_ = false;
+    std::string wifiDeviceName_;
+};
+
+/// A network card of a device.
+class IPCNetworkCardAbility
+{
+public:
+    /// Its number on the device.
+    int getNetWorkCardId() const { return netWorkCardId_; }
+    void setNetWorkCardId(int netWorkCardId) { netWorkCardId_ = netWorkCardId; }
+
+    /// Its name.
+    const std::string& getNetWorkCardName() const { return netWorkCardName_; }
+    void setNetWorkCardName(const std::string& netWorkCardName) { netWorkCardName_ = netWorkCardName; }
+
+    /// What it is, for users.
+    const std::string& getDescription() const { return description_; }
+    void setDescription(const std::string& description) { description_ = description; }
+
+    /// Whether its failure raises an alarm.
+    bool getSupportAlarm() const { return supportAlarm_; }
+    void setSupportAlarm(bool supportAlarm) { supportAlarm_ = supportAlarm; }
+
+private:
+    int netWorkCardId_ = 0;
+    std::string netWorkCardName_;
+    std::string description_;
+    bool supportAlarm_ = false;
+};
+
+/// A mode in which a device can work.
+class WorkingMode
+{
+public:
+    /// Its number on the device.
+    int getModeID() const { return modeID_; }
+    void setModeID(int modeID) { modeID_ = modeID; }
+
+    /// Its name, for users.
+    const std::string& getModeName() const { return modeName_; }
+    void setModeName(const std::string& modeName) { modeName_ = modeName; }
+
+private:
+    int modeID_ = 0;
+    std::string modeName_;
+};
+
+/// A language in which a device speaks to its users.
+class LanguageType
+{
+public:
+    /// Its number on the device.
+    int getLanguageID() const { return languageID_; }
+    void setLanguageID(int languageID) { languageID_ = languageID; }
+
+    /// Its name, for users.
+    const std::string& getLanguageName() const { return languageName_; }
+    void setLanguageName(const std::string& languageName) { languageName_ = languageName; }
+
+private:
+    int languageID_ = 0;
+    std::string languageName_;
+};
+
+/// A way in which the controller of a camera's sensor can be switched on.
+class SensorControllerOpenType
+{
+public:
+    /// Its number on the device.
+    int getType() const { return type_; }
+    void setType(int type) { type_ = type; }
+
+private:
+    int type_ = 0;
+};
+
+/// What a camera's sensor can do.
+class SensorAbility
+{
+public:
+    /// The ways in which its controller can be switched on.
+    /// @{
+    const std::vector<SensorControllerOpenType>& getSensorControllerOpenTypeList() const
+    {
+        return sensorControllerOpenTypeList_;
+    }
+    std::vector<SensorControllerOpenType>& getSensorControllerOpenTypeList() { return sensorControllerOpenTypeList_; }
+    void setSensorControllerOpenTypeList(const std::vector<SensorControllerOpenType>& sensorControllerOpenTypeList)
+    {
+        sensorControllerOpenTypeList_ = sensorControllerOpenTypeList;
+    }
+    /// @}
+
+private:
+    std::vector<SensorControllerOpenType> sensorControllerOpenTypeList_;
+};
+
+/// A format of the texts that are laid over a picture.
+class OSDFormatType
+{
+public:
+    /// Its number on the device.
+    int getFormatId() const { return formatId_; }
+    void setFormatId(int formatId) { formatId_ = formatId; }
+
+    /// What it looks like, for users.
+    const std::string& getDescription() const { return description_; }
+    void setDescription(const std::string& description) { description_ = description; }
+
+private:
+    int formatId_ = 0;
+    std::string description_;
+};
+
+/// The formats of the texts that a device can lay over a picture.
+class OSDFormatAbility
+{
+public:
+    /// One entry for each.
+    /// @{
+    const std::vector<OSDFormatType>& getOSDFormatTypeList() const { return osdFormatTypeList_; }
+    std::vector<OSDFormatType>& getOSDFormatTypeList() { return osdFormatTypeList_; }
+    void setOSDFormatTypeList(const std::vector<OSDFormatType>& osdFormatTypeList)
+    {
+        osdFormatTypeList_ = osdFormatTypeList;
+    }
+    /// @}
+
+private:
+    std::vector<OSDFormatType> osdFormatTypeList_;
+};
+
+/// A font of the texts that are laid over a picture.
+class OSDFontType
+{
+public:
+    /// Its number on the device.
+    int getFontId() const { return fontId_; }
+    void setFontId(int fontId) { fontId_ = fontId; }
+
+    /// What it looks like, for users.
+    const std::string& getDescription() const { return description_; }
+    void setDescription(const std::string& description) { description_ = description; }
+
+private:
+    int fontId_ = 0;
+    std::string description_;
+};
+
+/// A colour of the texts that are laid over a picture, as the device scales it.
+class OSDColor
+{
+public:
+    /// Share of red.
+    int getColorR() const { return colorR_; }
+    void setColorR(int colorR) { colorR_ = colorR; }
+
+    /// Share of green.
+    int getColorG() const { return colorG_; }
+    void setColorG(int colorG) { colorG_ = colorG; }
+
+    /// Share of blue.
+    int getColorB() const { return colorB_; }
+    void setColorB(int colorB) { colorB_ = colorB; }
+
+private:
+    int colorR_ = 0;
+    int colorG_ = 0;
+    int colorB_ = 0;
+};
+
+/// A colour for places where the picture is nearly of the chosen one.
+using OSDInverseColor = OSDColor;
+
+/// An opacity of the texts that are laid over a picture.
+class OSDAlpha
+{
+public:
+    /// Its degree, as the device scales it.
+    int getAlpha() const { return alpha_; }
+    void setAlpha(int alpha) { alpha_ = alpha; }
+
+private:
+    int alpha_ = 0;
+};
+
+/// The looks of the texts that a device can lay over a picture.
+class OSDFontAbility
+{
+public:
+    /// The fonts.
+    /// @{
+    const std::vector<OSDFontType>& getOSDFontTypeList() const { return osdFontTypeList_; }
+    std::vector<OSDFontType>& getOSDFontTypeList() { return osdFontTypeList_; }
+    void setOSDFontTypeList(const std::vector<OSDFontType>& osdFontTypeList) { osdFontTypeList_ = osdFontTypeList; }
+    /// @}
+
+    /// The colours.
+    /// @{
+    const std::vector<OSDColor>& getOSDColorList() const { return osdColorList_; }
+    std::vector<OSDColor>& getOSDColorList() { return osdColorList_; }
+    void setOSDColorList(const std::vector<OSDColor>& osdColorList) { osdColorList_ = osdColorList; }
+    /// @}
+
+    /// The colours over a picture of nearly the first one.
+    /// @{
+    const std::vector<OSDInverseColor>& getOSDInverseColorList() const { return osdInverseColorList_; }
+    std::vector<OSDInverseColor>& getOSDInverseColorList() { return osdInverseColorList_; }
+    void setOSDInverseColorList(const std::vector<OSDInverseColor>& osdInverseColorList)
+    {
+        osdInverseColorList_ = osdInverseColorList;
+    }
+    /// @}
+
+    /// The degrees of opacity.
+    /// @{
+    const std::vector<OSDAlpha>& getOSDAlphaList() const { return osdAlphaList_; }
+    std::vector<OSDAlpha>& getOSDAlphaList() { return osdAlphaList_; }
+    void setOSDAlphaList(const std::vector<OSDAlpha>& osdAlphaList) { osdAlphaList_ = osdAlphaList; }
+    /// @}
+
+private:
+    std::vector<OSDFontType> osdFontTypeList_;
+    std::vector<OSDColor> osdColorList_;
+    std::vector<OSDInverseColor> osdInverseColorList_;
+    std::vector<OSDAlpha> osdAlphaList_;
 };

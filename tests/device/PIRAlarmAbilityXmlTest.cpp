@@ -1,28 +1,7 @@
 #include "device/PIRAlarmAbilityXml.h"
 
+#include "tests/device/Elements.h"
 #include "tests/support/Documents.h"
-
-namespace
-{
-
-std::string printed(const TiXmlNode& node)
-{
-    TiXmlPrinter printer;
-    printer.SetIndent("\t");
-    node.Accept(&printer);
-    return printer.Str();
-}
-
-/// Reads @p text as a parent would, from its root element.
-bool readsElement(PIRAlarmAbilityXml& codec, const std::string& text)
-{
-    TiXmlDocument document;
-    document.Parse(text.c_str());
-    codec.setXmlNode(document.RootElement());
-    return codec.parseXmlNode();
-}
-
-} // namespace
 
 TEST(PIRAlarmAbilityXml, WritesAnElement)
 {

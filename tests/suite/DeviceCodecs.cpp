@@ -2,6 +2,14 @@
 
 #include "device/AlarmInStatisticXml.h"
 #include "device/AlarmOutStatisticXml.h"
+#include "device/AudioAbilityXml.h"
+#include "device/AudioDecodeTypeXml.h"
+#include "device/AudioEncodeTypeXml.h"
+#include "device/AudioExAbilityXml.h"
+#include "device/AudioInTypeXml.h"
+#include "device/AudioOutTypeXml.h"
+#include "device/BlindAbilityConfigureXml.h"
+#include "device/BlindAbilityXml.h"
 #include "device/BlindAbilityXmlV2.h"
 #include "device/CameraDeviceXml.h"
 #include "device/CameraInfoXml.h"
@@ -19,15 +27,32 @@
 #include "device/DeviceTypeXml.h"
 #include "device/DeviceWorkStateXml.h"
 #include "device/DiskStatisticXml.h"
+#include "device/FileSystemAbilityXml.h"
+#include "device/I3GAbilityParamXml.h"
+#include "device/IPCNetworkAbilityXml.h"
+#include "device/LanguageAbilityXml.h"
 #include "device/ManualRecordStatusXml.h"
 #include "device/MemStatisticXml.h"
+#include "device/MotionDetectionAbilityConfigureXml.h"
+#include "device/MotionDetectionAbilityXml.h"
+#include "device/MotionDetectionExAbilityXml.h"
+#include "device/OSDFontAbilityXml.h"
+#include "device/OSDFormatAbilityXml.h"
 #include "device/PIRAlarmAbilityXml.h"
+#include "device/PTZAbilityXml.h"
+#include "device/ProtocolConfigAbilityXml.h"
+#include "device/ROIAbilityXml.h"
 #include "device/RecordStateXml.h"
+#include "device/SensorAbilityXml.h"
 #include "device/ServerParameterXml.h"
 #include "device/SnapshotStatusXml.h"
 #include "device/SpecialCustomXml.h"
 #include "device/SystemServiceInfoXml.h"
+#include "device/TimeZoneAbilityXml.h"
 #include "device/VideoChannelStatisticXml.h"
+#include "device/WifiAbilityParamXml.h"
+#include "device/WorkingModeAbilityXml.h"
+#include "device/ZentarDDNSAbilityXml.h"
 #include "tests/suite/Rewrite.h"
 
 namespace
@@ -56,6 +81,14 @@ std::vector<CodecCase> deviceCodecs()
         // clang-format off
         {"device", "AlarmInStatisticXml", "document", rewriteDocument<AlarmInStatisticXml>},
         {"device", "AlarmOutStatisticXml", "document", rewriteDocument<AlarmOutStatisticXml>},
+        {"device", "AudioAbilityXml", "document", rewriteDocument<AudioAbilityXml>},
+        {"device", "AudioDecodeTypeXml", "document", rewriteDocument<AudioDecodeTypeXml>},
+        {"device", "AudioEncodeTypeXml", "document", rewriteDocument<AudioEncodeTypeXml>},
+        {"device", "AudioExAbilityXml", "document", rewriteDocument<AudioExAbilityXml>},
+        {"device", "AudioInTypeXml", "document", rewriteDocument<AudioInTypeXml>},
+        {"device", "AudioOutTypeXml", "document", rewriteDocument<AudioOutTypeXml>},
+        {"device", "BlindAbilityConfigureXml", "node", rewriteText<BlindAbilityConfigureXml, BlindAbilityConfigure>},
+        {"device", "BlindAbilityXml", "document", rewriteDocument<BlindAbilityXml>},
         {"device", "BlindAbilityXmlV2", "document", rewriteBackedDocument<BlindAbilityXmlV2>},
         {"device", "CameraDeviceXml", "document", rewriteDocument<CameraDeviceXml>},
         {"device", "CameraDeviceXml", "node", rewriteText<CameraDeviceXml, CameraDevice>},
@@ -77,15 +110,34 @@ std::vector<CodecCase> deviceCodecs()
         {"device", "DeviceTypeXml", "node", rewriteText<DeviceTypeXml, DeviceType>},
         {"device", "DeviceWorkStateXml", "document", rewriteDocument<DeviceWorkStateXml>},
         {"device", "DiskStatisticXml", "document", rewriteDocument<DiskStatisticXml>},
+        {"device", "FileSystemAbilityXml", "document", rewriteDocument<FileSystemAbilityXml>},
+        {"device", "I3GAbilityParamXml", "document", rewriteDocument<I3GAbilityParamXml>},
+        {"device", "IPCNetworkAbilityXml", "element", rewriteBackedElement<IPCNetworkAbilityXml>},
+        {"device", "LanguageAbilityXml", "document", rewriteBackedDocument<LanguageAbilityXml>},
         {"device", "ManualRecordStatusXml", "document", rewriteDocument<ManualRecordStatusXml>},
         {"device", "MemStatisticXml", "document", rewriteDocument<MemStatisticXml>},
+        {"device", "MotionDetectionAbilityConfigureXml", "node", rewriteText<MotionDetectionAbilityConfigureXml, MotionDetectionAbilityConfigure>},
+        {"device", "MotionDetectionAbilityXml", "document", rewriteDocument<MotionDetectionAbilityXml>},
+        {"device", "MotionDetectionExAbilityXml", "document", rewriteDocument<MotionDetectionExAbilityXml>},
+        {"device", "OSDFontAbilityXml", "document", rewriteBackedDocument<OSDFontAbilityXml>},
+        {"device", "OSDFormatAbilityXml", "document", rewriteBackedDocument<OSDFormatAbilityXml>},
         {"device", "PIRAlarmAbilityXml", "element", rewriteBackedElement<PIRAlarmAbilityXml>},
+        {"device", "PTZAbilityXml", "document", rewriteDocument<PTZAbilityXml>},
+        {"device", "ProtocolConfigAbilityXml", "node", rewriteText<ProtocolConfigAbilityXml, ProtocolConfigAbility>},
+        {"device", "ROIAbilityXml", "document", rewriteDocument<ROIAbilityXml>},
+        {"device", "ROIAbilityXml", "node", rewriteText<ROIAbilityXml, ROIAbility>},
         {"device", "RecordStateXml", "document", rewriteDocument<RecordStateXml>},
+        {"device", "SensorAbilityXml", "document", rewriteBackedDocument<SensorAbilityXml>},
         {"device", "ServerParameterXml", "node", rewriteText<ServerParameterXml, ServerParameter>},
         {"device", "SnapshotStatusXml", "document", rewriteDocument<SnapshotStatusXml>},
         {"device", "SpecialCustomXml", "node", rewriteText<SpecialCustomXml, SpecialCustom>},
         {"device", "SystemServiceInfoXml", "node", rewriteText<SystemServiceInfoXml, SystemServiceInfo>},
+        {"device", "TimeZoneAbilityXml", "node", rewriteText<TimeZoneAbilityXml, TimeZoneAbility>},
         {"device", "VideoChannelStatisticXml", "document", rewriteDocument<VideoChannelStatisticXml>},
+        {"device", "WifiAbilityParamXml", "document", rewriteBackedDocument<WifiAbilityParamXml>},
+        {"device", "WorkingModeAbilityXml", "element", rewriteBackedElement<WorkingModeAbilityXml>},
+        {"device", "ZentarDDNSAbilityXml", "document", rewriteDocument<ZentarDDNSAbilityXml>},
+        {"device", "ZentarDDNSAbilityXml", "node", rewriteText<ZentarDDNSAbilityXml, ZentarDDNSAbility>},
         // clang-format on
     };
 }
