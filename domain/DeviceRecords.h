@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// One camera of a device.
@@ -1914,4 +1915,792 @@ private:
     std::vector<OSDColor> osdColorList_;
     std::vector<OSDInverseColor> osdInverseColorList_;
     std::vector<OSDAlpha> osdAlphaList_;
+};
+
+/// A size of pictures.
+class VideoResolution
+{
+public:
+    /// In pixels.
+    int getVideoHeight() const { return videoHeight_; }
+    void setVideoHeight(int videoHeight) { videoHeight_ = videoHeight; }
+
+    /// In pixels.
+    int getVideoWidth() const { return videoWidth_; }
+    void setVideoWidth(int videoWidth) { videoWidth_ = videoWidth; }
+
+    /// Its name, for users.
+    const std::string& getResolutionName() const { return resolutionName_; }
+    void setResolutionName(const std::string& resolutionName) { resolutionName_ = resolutionName; }
+
+private:
+    int videoHeight_ = 0;
+    int videoWidth_ = 0;
+    std::string resolutionName_;
+};
+
+/// A television system.
+class VideoSystem
+{
+public:
+    /// Its number on the device.
+    int getVideoSystemId() const { return videoSystemId_; }
+    void setVideoSystemId(int videoSystemId) { videoSystemId_ = videoSystemId; }
+
+    /// Its name, for users.
+    const std::string& getVideoSystemName() const { return videoSystemName_; }
+    void setVideoSystemName(const std::string& videoSystemName) { videoSystemName_ = videoSystemName; }
+
+private:
+    int videoSystemId_ = 0;
+    std::string videoSystemName_;
+};
+
+/// What a camera can do to encode pictures of one format, in the older description.
+class EncoderAbility
+{
+public:
+    /// The format's number on the device.
+    int getImageFormatId() const { return imageFormatId_; }
+    void setImageFormatId(int imageFormatId) { imageFormatId_ = imageFormatId; }
+
+    /// Most frames in a second.
+    int getMaxFrameRate() const { return maxFrameRate_; }
+    void setMaxFrameRate(int maxFrameRate) { maxFrameRate_ = maxFrameRate; }
+
+    /// Fewest frames in a second.
+    int getMinFrameRate() const { return minFrameRate_; }
+    void setMinFrameRate(int minFrameRate) { minFrameRate_ = minFrameRate; }
+
+    /// Highest bit rate, in the unit of the device.
+    int getMaxBitRate() const { return maxBitRate_; }
+    void setMaxBitRate(int maxBitRate) { maxBitRate_ = maxBitRate; }
+
+    /// Lowest bit rate, in the unit of the device.
+    int getMinBitRate() const { return minBitRate_; }
+    void setMinBitRate(int minBitRate) { minBitRate_ = minBitRate; }
+
+    /// Best quality, as the device scales it.
+    int getMaxQuality() const { return maxQuality_; }
+    void setMaxQuality(int maxQuality) { maxQuality_ = maxQuality; }
+
+    /// Worst quality, as the device scales it.
+    int getMinQuality() const { return minQuality_; }
+    void setMinQuality(int minQuality) { minQuality_ = minQuality; }
+
+    /// Height of the pictures, in pixels.
+    int getHeight() const { return height_; }
+    void setHeight(int height) { height_ = height; }
+
+    /// Width of the pictures, in pixels.
+    int getWidth() const { return width_; }
+    void setWidth(int width) { width_ = width; }
+
+    /// Kind of encoder, as the device numbers it.
+    int getEncoderType() const { return encoderType_; }
+    void setEncoderType(int encoderType) { encoderType_ = encoderType; }
+
+    /// Television system, as the device numbers it.
+    int getVideoSystem() const { return videoSystem_; }
+    void setVideoSystem(int videoSystem) { videoSystem_ = videoSystem; }
+
+    /// Its kinds of bit rate, as the device numbers them.
+    /// @{
+    const std::vector<int>& getBitRateTypeList() const { return bitRateTypeList_; }
+    std::vector<int>& getBitRateTypeList() { return bitRateTypeList_; }
+    void setBitRateTypeList(const std::vector<int>& bitRateTypeList) { bitRateTypeList_ = bitRateTypeList; }
+    void addBitRateType(int bitRateType) { bitRateTypeList_.push_back(bitRateType); }
+    /// @}
+
+private:
+    int imageFormatId_ = 0;
+    int maxFrameRate_ = 0;
+    int minFrameRate_ = 0;
+    int maxBitRate_ = 0;
+    int minBitRate_ = 0;
+    int maxQuality_ = 0;
+    int minQuality_ = 0;
+    int height_ = 0;
+    int width_ = 0;
+    int encoderType_ = 0;
+    int videoSystem_ = 0;
+    std::vector<int> bitRateTypeList_;
+};
+
+/// What one camera of a device can do, in the older description.
+class CameraAbility
+{
+public:
+    /// What it can do to encode pictures, by format.
+    /// @{
+    const std::vector<EncoderAbility>& getEncoderAbilityList() const { return encoderAbilityList_; }
+    std::vector<EncoderAbility>& getEncoderAbilityList() { return encoderAbilityList_; }
+    void setEncoderAbilityList(const std::vector<EncoderAbility>& encoderAbilityList)
+    {
+        encoderAbilityList_ = encoderAbilityList;
+    }
+    void addEncoderAbility(EncoderAbility encoderAbility) { encoderAbilityList_.push_back(std::move(encoderAbility)); }
+    /// @}
+
+    /// How finely it detects motion, by format.
+    /// @{
+    const std::vector<MotionDetectionAbility>& getMotionDetectionAbilityList() const
+    {
+        return motionDetectionAbilityList_;
+    }
+    std::vector<MotionDetectionAbility>& getMotionDetectionAbilityList() { return motionDetectionAbilityList_; }
+    void setMotionDetectionAbilityList(const std::vector<MotionDetectionAbility>& motionDetectionAbilityList)
+    {
+        motionDetectionAbilityList_ = motionDetectionAbilityList;
+    }
+    void addMotionDetectionAbility(MotionDetectionAbility motionDetectionAbility)
+    {
+        motionDetectionAbilityList_.push_back(std::move(motionDetectionAbility));
+    }
+    /// @}
+
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// Whether users can configure it.
+    bool getUserConfigurable() const { return userConfigurable_; }
+    void setUserConfigurable(bool userConfigurable) { userConfigurable_ = userConfigurable; }
+
+    /// Whether it detects motion.
+    bool getMotionDetectionSupportFlag() const { return motionDetectionSupportFlag_; }
+    void setMotionDetectionSupportFlag(bool motionDetectionSupportFlag)
+    {
+        motionDetectionSupportFlag_ = motionDetectionSupportFlag;
+    }
+
+private:
+    std::vector<EncoderAbility> encoderAbilityList_;
+    std::vector<MotionDetectionAbility> motionDetectionAbilityList_;
+    int cameraId_ = 0;
+    bool userConfigurable_ = false;
+    bool motionDetectionSupportFlag_ = false;
+};
+
+/// What a device can do with video, in the older description.
+class VideoAbility
+{
+public:
+    /// Number of cameras.
+    int getCameraNum() const { return cameraNum_; }
+    void setCameraNum(int cameraNum) { cameraNum_ = cameraNum; }
+
+    /// What each of them can do.
+    /// @{
+    const std::vector<CameraAbility>& getCameraAbilityList() const { return cameraAbilityList_; }
+    std::vector<CameraAbility>& getCameraAbilityList() { return cameraAbilityList_; }
+    void setCameraAbilityList(const std::vector<CameraAbility>& cameraAbilityList)
+    {
+        cameraAbilityList_ = cameraAbilityList;
+    }
+    void addCameraAbility(CameraAbility cameraAbility) { cameraAbilityList_.push_back(std::move(cameraAbility)); }
+    /// @}
+
+private:
+    int cameraNum_ = 0;
+    std::vector<CameraAbility> cameraAbilityList_;
+};
+
+/// What a device can do, in the older description.
+class DeviceAbility
+{
+public:
+    /// With video.
+    /// @{
+    const VideoAbility& getVideoAbility() const { return videoAbility_; }
+    VideoAbility& getVideoAbility() { return videoAbility_; }
+    void setVideoAbility(VideoAbility& videoAbility) { videoAbility_ = videoAbility; }
+    /// @}
+
+    /// With sound.
+    /// @{
+    const AudioAbility& getAudioAbility() const { return audioAbility_; }
+    AudioAbility& getAudioAbility() { return audioAbility_; }
+    void setAudioAbility(AudioAbility& audioAbility) { audioAbility_ = audioAbility; }
+    /// @}
+
+private:
+    VideoAbility videoAbility_;
+    AudioAbility audioAbility_;
+};
+
+/// What a stream can carry in one encoding.
+class StreamEncodeAbility
+{
+public:
+    /// The sizes of its pictures.
+    /// @{
+    const std::vector<VideoResolution>& getVideoResolutionList() const { return videoResolutionList_; }
+    std::vector<VideoResolution>& getVideoResolutionList() { return videoResolutionList_; }
+    void setVideoResolutionList(const std::vector<VideoResolution>& videoResolutionList)
+    {
+        videoResolutionList_ = videoResolutionList;
+    }
+    /// @}
+
+    /// The encoding, as the device numbers it.
+    int getEncoderType() const { return encoderType_; }
+    void setEncoderType(int encoderType) { encoderType_ = encoderType; }
+
+private:
+    std::vector<VideoResolution> videoResolutionList_;
+    int encoderType_ = 0;
+};
+
+/// In which ways a stream can be sent.
+class AVStreamAttributeAbility
+{
+public:
+    /// How it is sent, as the device numbers it.
+    int getStreamMode() const { return streamMode_; }
+    void setStreamMode(int streamMode) { streamMode_ = streamMode; }
+
+    /// The numbers of frames that it can skip.
+    /// @{
+    const std::vector<int>& getFrameSkipIntervalList() const { return frameSkipIntervalList_; }
+    std::vector<int>& getFrameSkipIntervalList() { return frameSkipIntervalList_; }
+    void setFrameSkipIntervalList(const std::vector<int>& frameSkipIntervalList)
+    {
+        frameSkipIntervalList_ = frameSkipIntervalList;
+    }
+    /// @}
+
+    /// The layers into which it can be divided, by their numbers on the device.
+    /// @{
+    const std::vector<int>& getSVCStreamIDList() const { return svcStreamIDList_; }
+    std::vector<int>& getSVCStreamIDList() { return svcStreamIDList_; }
+    void setSVCStreamIDList(const std::vector<int>& svcStreamIDList) { svcStreamIDList_ = svcStreamIDList; }
+    /// @}
+
+private:
+    int streamMode_ = 0;
+    std::vector<int> frameSkipIntervalList_;
+    std::vector<int> svcStreamIDList_;
+};
+
+/// What one stream of a camera can do.
+class AVStreamAbility
+{
+public:
+    /// What it can carry, by encoding.
+    /// @{
+    const std::vector<StreamEncodeAbility>& getStreamEncodeAbilityList() const { return streamEncodeAbilityList_; }
+    std::vector<StreamEncodeAbility>& getStreamEncodeAbilityList() { return streamEncodeAbilityList_; }
+    void setStreamEncodeAbilityList(const std::vector<StreamEncodeAbility>& streamEncodeAbilityList)
+    {
+        streamEncodeAbilityList_ = streamEncodeAbilityList;
+    }
+    /// @}
+
+    /// The stream's number on the camera.
+    int getStreamId() const { return streamId_; }
+    void setStreamId(int streamId) { streamId_ = streamId; }
+
+    /// The ways in which it can be sent.
+    /// @{
+    const AVStreamAttributeAbility& getAVStreamAttributeAbility() const { return avStreamAttributeAbility_; }
+    AVStreamAttributeAbility& getAVStreamAttributeAbility() { return avStreamAttributeAbility_; }
+    void setAVStreamAttributeAbility(const AVStreamAttributeAbility& avStreamAttributeAbility)
+    {
+        avStreamAttributeAbility_ = avStreamAttributeAbility;
+    }
+    /// @}
+
+    /// Whether it can encode regions better than the rest.
+    bool getSupportROI() const { return supportROI_; }
+    void setSupportROI(bool supportROI) { supportROI_ = supportROI; }
+
+    /// What it can do with such regions.
+    /// @{
+    const ROIAbility& getROIAbility() const { return roiAbility_; }
+    ROIAbility& getROIAbility() { return roiAbility_; }
+    void setROIAbility(const ROIAbility& roiAbility) { roiAbility_ = roiAbility; }
+    /// @}
+
+private:
+    std::vector<StreamEncodeAbility> streamEncodeAbilityList_;
+    int streamId_ = 0;
+    AVStreamAttributeAbility avStreamAttributeAbility_;
+    bool supportROI_ = false;
+    ROIAbility roiAbility_;
+};
+
+/// What one camera of a device can do.
+class CameraExAbility
+{
+public:
+    /// The largest size of its pictures.
+    /// @{
+    const VideoResolution& getMaxVideoResolution() const { return maxVideoResolution_; }
+    VideoResolution& getMaxVideoResolution() { return maxVideoResolution_; }
+    void setMaxVideoResolution(const VideoResolution& maxVideoResolution) { maxVideoResolution_ = maxVideoResolution; }
+    /// @}
+
+    /// What it can do to hide areas.
+    /// @{
+    const BlindAbility& getBlindAbility() const { return blindAbility_; }
+    BlindAbility& getBlindAbility() { return blindAbility_; }
+    void setBlindAbility(const BlindAbility& blindAbility) { blindAbility_ = blindAbility; }
+    /// @}
+
+    /// The sizes in which it takes pictures in.
+    /// @{
+    const std::vector<VideoResolution>& getSourceResolutionList() const { return sourceResolutionList_; }
+    std::vector<VideoResolution>& getSourceResolutionList() { return sourceResolutionList_; }
+    void setSourceResolutionList(const std::vector<VideoResolution>& sourceResolutionList)
+    {
+        sourceResolutionList_ = sourceResolutionList;
+    }
+    /// @}
+
+    /// The sizes in which it sends pictures.
+    /// @{
+    const std::vector<VideoResolution>& getVideoResolutionList() const { return videoResolutionList_; }
+    std::vector<VideoResolution>& getVideoResolutionList() { return videoResolutionList_; }
+    void setVideoResolutionList(const std::vector<VideoResolution>& videoResolutionList)
+    {
+        videoResolutionList_ = videoResolutionList;
+    }
+    /// @}
+
+    /// What each of its streams can do.
+    /// @{
+    const std::vector<AVStreamAbility>& getAVStreamAbilityList() const { return avStreamAbilityList_; }
+    std::vector<AVStreamAbility>& getAVStreamAbilityList() { return avStreamAbilityList_; }
+    void setAVStreamAbilityList(const std::vector<AVStreamAbility>& avStreamAbilityList)
+    {
+        avStreamAbilityList_ = avStreamAbilityList;
+    }
+    /// @}
+
+    /// How finely it detects motion.
+    /// @{
+    const MotionDetectionExAbility& getMotionDetectionExAbility() const { return motionDetectionExAbility_; }
+    MotionDetectionExAbility& getMotionDetectionExAbility() { return motionDetectionExAbility_; }
+    void setMotionDetectionExAbility(const MotionDetectionExAbility& motionDetectionExAbility)
+    {
+        motionDetectionExAbility_ = motionDetectionExAbility;
+    }
+    /// @}
+
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+private:
+    VideoResolution maxVideoResolution_;
+    BlindAbility blindAbility_;
+    std::vector<VideoResolution> sourceResolutionList_;
+    std::vector<VideoResolution> videoResolutionList_;
+    std::vector<AVStreamAbility> avStreamAbilityList_;
+    MotionDetectionExAbility motionDetectionExAbility_;
+    int cameraId_ = 0;
+};
+
+/// What an encoder can do with pictures of one size.
+class VideoResolutionAbility
+{
+public:
+    /// Most frames in a second.
+    int getMaxFrameRate() const { return maxFrameRate_; }
+    void setMaxFrameRate(int maxFrameRate) { maxFrameRate_ = maxFrameRate; }
+
+    /// Fewest frames in a second.
+    int getMinFrameRate() const { return minFrameRate_; }
+    void setMinFrameRate(int minFrameRate) { minFrameRate_ = minFrameRate; }
+
+    /// Highest bit rate, in the unit of the device.
+    int getMaxBitRate() const { return maxBitRate_; }
+    void setMaxBitRate(int maxBitRate) { maxBitRate_ = maxBitRate; }
+
+    /// Lowest bit rate, in the unit of the device.
+    int getMinBitRate() const { return minBitRate_; }
+    void setMinBitRate(int minBitRate) { minBitRate_ = minBitRate; }
+
+    /// Best quality, as the device scales it.
+    int getMaxQuality() const { return maxQuality_; }
+    void setMaxQuality(int maxQuality) { maxQuality_ = maxQuality; }
+
+    /// Worst quality, as the device scales it.
+    int getMinQuality() const { return minQuality_; }
+    void setMinQuality(int minQuality) { minQuality_ = minQuality; }
+
+    /// Longest way from one key frame to the next.
+    int getMaxIFrameInterval() const { return maxIFrameInterval_; }
+    void setMaxIFrameInterval(int maxIFrameInterval) { maxIFrameInterval_ = maxIFrameInterval; }
+
+    /// Shortest way from one key frame to the next.
+    int getMinIFrameInterval() const { return minIFrameInterval_; }
+    void setMinIFrameInterval(int minIFrameInterval) { minIFrameInterval_ = minIFrameInterval; }
+
+    /// Unit of these ways, as the device numbers it.
+    int getIFrameIntervalUnit() const { return iFrameIntervalUnit_; }
+    void setIFrameIntervalUnit(const int& iFrameIntervalUnit) { iFrameIntervalUnit_ = iFrameIntervalUnit; }
+
+    /// Its kinds of bit rate, as the device numbers them.
+    /// @{
+    const std::vector<int>& getBitRateTypeList() const { return bitRateTypeList_; }
+    std::vector<int>& getBitRateTypeList() { return bitRateTypeList_; }
+    void setBitRateTypeList(const std::vector<int>& bitRateTypeList) { bitRateTypeList_ = bitRateTypeList; }
+    /// @}
+
+    /// The size.
+    /// @{
+    const VideoResolution& getVideoResolution() const { return videoResolution_; }
+    VideoResolution& getVideoResolution() { return videoResolution_; }
+    void setVideoResolution(const VideoResolution& videoResolution) { videoResolution_ = videoResolution; }
+    /// @}
+
+private:
+    int maxFrameRate_ = 0;
+    int minFrameRate_ = 0;
+    int maxBitRate_ = 0;
+    int minBitRate_ = 0;
+    int maxQuality_ = 0;
+    int minQuality_ = 0;
+    int maxIFrameInterval_ = 0;
+    int minIFrameInterval_ = 0;
+    int iFrameIntervalUnit_ = 0;
+    std::vector<int> bitRateTypeList_;
+    VideoResolution videoResolution_;
+};
+
+/// What an encoder of a device can do.
+class VideoEncoderAbility
+{
+public:
+    /// Its kind, as the device numbers it.
+    int getEncoderType() const { return encoderType_; }
+    void setEncoderType(int encoderType) { encoderType_ = encoderType; }
+
+    /// Its name, for users.
+    const std::string& getEncoderName() const { return encoderName_; }
+    void setEncoderName(const std::string& encoderName) { encoderName_ = encoderName; }
+
+    /// How much it can encode in all, as the device scales it.
+    int getVideoEncodeTotleAbility() const { return videoEncodeTotleAbility_; }
+    void setVideoEncodeTotleAbility(int videoEncodeTotleAbility) { videoEncodeTotleAbility_ = videoEncodeTotleAbility; }
+
+    /// What it can do, by size of the pictures.
+    /// @{
+    const std::vector<VideoResolutionAbility>& getVideoResolutionAbilityList() const
+    {
+        return videoResolutionAbilityList_;
+    }
+    std::vector<VideoResolutionAbility>& getVideoResolutionAbilityList() { return videoResolutionAbilityList_; }
+    void setVideoResolutionAbilityList(const std::vector<VideoResolutionAbility>& videoResolutionAbilityList)
+    {
+        videoResolutionAbilityList_ = videoResolutionAbilityList;
+    }
+    /// @}
+
+private:
+    int encoderType_ = 0;
+    std::string encoderName_;
+    int videoEncodeTotleAbility_ = 0;
+    std::vector<VideoResolutionAbility> videoResolutionAbilityList_;
+};
+
+/// The sizes in which pictures of one television system are taken in.
+class SourceResolutionAbility
+{
+public:
+    /// The system.
+    /// @{
+    const VideoSystem& getVideoSystem() const { return videoSystem_; }
+    VideoSystem& getVideoSystem() { return videoSystem_; }
+    void setVideoSystem(const VideoSystem& videoSystem) { videoSystem_ = videoSystem; }
+    /// @}
+
+    /// The sizes.
+    /// @{
+    const std::vector<VideoResolution>& getSourceResolutionList() const { return sourceResolutionList_; }
+    std::vector<VideoResolution>& getSourceResolutionList() { return sourceResolutionList_; }
+    void setSourceResolutionList(const std::vector<VideoResolution>& sourceResolutionList)
+    {
+        sourceResolutionList_ = sourceResolutionList;
+    }
+    /// @}
+
+private:
+    VideoSystem videoSystem_;
+    std::vector<VideoResolution> sourceResolutionList_;
+};
+
+/// What a device can do with its video output.
+class VideoOutAbility
+{
+public:
+    /// Whether users can configure it.
+    bool getVideoOutConfigurable() const { return videoOutConfigurable_; }
+    void setVideoOutConfigurable(bool videoOutConfigurable) { videoOutConfigurable_ = videoOutConfigurable; }
+
+    /// Whether there is one.
+    bool getIsSupportVideoOut() const { return isSupportVideoOut_; }
+    void setIsSupportVideoOut(bool isSupportVideoOut) { isSupportVideoOut_ = isSupportVideoOut; }
+
+private:
+    bool videoOutConfigurable_ = false;
+    bool isSupportVideoOut_ = false;
+};
+
+/// What a device can do with video.
+class VideoExAbility
+{
+public:
+    /// Whether users can choose the television system.
+    bool getVideoSystemConfigurableFlag() const { return videoSystemConfigurableFlag_; }
+    void setVideoSystemConfigurableFlag(bool videoSystemConfigurableFlag)
+    {
+        videoSystemConfigurableFlag_ = videoSystemConfigurableFlag;
+    }
+
+    /// What each camera can do.
+    /// @{
+    const std::vector<CameraExAbility>& getCameraExAbilityList() const { return cameraExAbilityList_; }
+    std::vector<CameraExAbility>& getCameraExAbilityList() { return cameraExAbilityList_; }
+    void setCameraExAbilityList(const std::vector<CameraExAbility>& cameraExAbilityList)
+    {
+        cameraExAbilityList_ = cameraExAbilityList;
+    }
+    /// @}
+
+    /// What each encoder can do.
+    /// @{
+    const std::vector<VideoEncoderAbility>& getVideoEncoderAbilityList() const { return videoEncoderAbilityList_; }
+    std::vector<VideoEncoderAbility>& getVideoEncoderAbilityList() { return videoEncoderAbilityList_; }
+    void setVideoEncoderAbilityList(const std::vector<VideoEncoderAbility>& videoEncoderAbilityList)
+    {
+        videoEncoderAbilityList_ = videoEncoderAbilityList;
+    }
+    /// @}
+
+    /// The television systems that it knows.
+    /// @{
+    const std::vector<VideoSystem>& getVideoSystemList() const { return videoSystemList_; }
+    std::vector<VideoSystem>& getVideoSystemList() { return videoSystemList_; }
+    void setVideoSystemList(const std::vector<VideoSystem>& videoSystemList) { videoSystemList_ = videoSystemList; }
+    /// @}
+
+    /// The sizes in which it takes pictures in, by system.
+    /// @{
+    const std::vector<SourceResolutionAbility>& getSourceResolutionAbilityList() const
+    {
+        return sourceResolutionAbilityList_;
+    }
+    std::vector<SourceResolutionAbility>& getSourceResolutionAbilityList() { return sourceResolutionAbilityList_; }
+    void setSourceResolutionAbilityList(const std::vector<SourceResolutionAbility>& sourceResolutionAbilityList)
+    {
+        sourceResolutionAbilityList_ = sourceResolutionAbilityList;
+    }
+    /// @}
+
+    /// What it can do with its output.
+    /// @{
+    const VideoOutAbility& getVideoOutAbility() const { return videoOutAbility_; }
+    VideoOutAbility& getVideoOutAbility() { return videoOutAbility_; }
+    void setVideoOutAbility(const VideoOutAbility& videoOutAbility) { videoOutAbility_ = videoOutAbility; }
+    /// @}
+
+private:
+    bool videoSystemConfigurableFlag_ = false;
+    std::vector<CameraExAbility> cameraExAbilityList_;
+    std::vector<VideoEncoderAbility> videoEncoderAbilityList_;
+    std::vector<VideoSystem> videoSystemList_;
+    std::vector<SourceResolutionAbility> sourceResolutionAbilityList_;
+    VideoOutAbility videoOutAbility_;
+};
+
+/// What a device can do.
+class DeviceExAbility
+{
+public:
+    /// With heads.
+    /// @{
+    const PTZAbility& getPTZAbility() const { return ptzAbility_; }
+    PTZAbility& getPTZAbility() { return ptzAbility_; }
+    void setPTZAbility(const PTZAbility& ptzAbility) { ptzAbility_ = ptzAbility; }
+    /// @}
+
+    /// With video.
+    /// @{
+    const VideoExAbility& getVideoExAbility() const { return videoExAbility_; }
+    VideoExAbility& getVideoExAbility() { return videoExAbility_; }
+    void setVideoExAbility(const VideoExAbility& videoExAbility) { videoExAbility_ = videoExAbility; }
+    /// @}
+
+    /// With sound.
+    /// @{
+    const AudioExAbility& getAudioExAbility() const { return audioExAbility_; }
+    AudioExAbility& getAudioExAbility() { return audioExAbility_; }
+    void setAudioExAbility(const AudioExAbility& audioExAbility) { audioExAbility_ = audioExAbility; }
+    /// @}
+
+    /// With disks, by their kind.
+    /// @{
+    const std::vector<FileSystemAbility>& getFileSystemAbilityList() const { return fileSystemAbilityList_; }
+    std::vector<FileSystemAbility>& getFileSystemAbilityList() { return fileSystemAbilityList_; }
+    void setFileSystemAbilityList(const std::vector<FileSystemAbility>& fileSystemAbilityList)
+    {
+        fileSystemAbilityList_ = fileSystemAbilityList;
+    }
+    /// @}
+
+    /// The modes in which it can work.
+    /// @{
+    const std::vector<WorkingMode>& getWorkingModeAbility() const { return workingModeAbility_; }
+    std::vector<WorkingMode>& getWorkingModeAbility() { return workingModeAbility_; }
+    void setWorkingModeAbility(const std::vector<WorkingMode>& workingModeAbility)
+    {
+        workingModeAbility_ = workingModeAbility;
+    }
+    /// @}
+
+    /// The languages in which it speaks to its users.
+    /// @{
+    const std::vector<LanguageType>& getLanguageAbility() const { return languageAbility_; }
+    std::vector<LanguageType>& getLanguageAbility() { return languageAbility_; }
+    void setLanguageAbility(const std::vector<LanguageType>& languageAbility) { languageAbility_ = languageAbility; }
+    /// @}
+
+    /// Its network cards.
+    /// @{
+    const std::vector<IPCNetworkCardAbility>& getNetworkAbility() const { return networkAbility_; }
+    std::vector<IPCNetworkCardAbility>& getNetworkAbility() { return networkAbility_; }
+    void setNetworkAbility(const std::vector<IPCNetworkCardAbility>& networkAbility)
+    {
+        networkAbility_ = networkAbility;
+    }
+    /// @}
+
+    /// Whether it has a passive infrared detector.
+    /// @{
+    const PIRAlarmAbility& getPIRAlarmAbility() const { return pirAlarmAbility_; }
+    PIRAlarmAbility& getPIRAlarmAbility() { return pirAlarmAbility_; }
+    void setPIRAlarmAbility(const PIRAlarmAbility& pirAlarmAbility) { pirAlarmAbility_ = pirAlarmAbility; }
+    /// @}
+
+    /// Whether it can reach wireless networks.
+    /// @{
+    const WifiAbilityParam& getWifiAbilityParam() const { return wifiAbilityParam_; }
+    WifiAbilityParam& getWifiAbilityParam() { return wifiAbilityParam_; }
+    void setWifiAbilityParam(const WifiAbilityParam& wifiAbilityParam) { wifiAbilityParam_ = wifiAbilityParam; }
+    /// @}
+
+private:
+    PTZAbility ptzAbility_;
+    VideoExAbility videoExAbility_;
+    AudioExAbility audioExAbility_;
+    std::vector<FileSystemAbility> fileSystemAbilityList_;
+    std::vector<WorkingMode> workingModeAbility_;
+    std::vector<LanguageType> languageAbility_;
+    std::vector<IPCNetworkCardAbility> networkAbility_;
+    PIRAlarmAbility pirAlarmAbility_;
+    WifiAbilityParam wifiAbilityParam_;
+};
+
+/// How one camera takes its pictures in.
+class SourceResolution
+{
+public:
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// Its television system.
+    /// @{
+    const VideoSystem& getVideoSystem() const { return videoSystem_; }
+    VideoSystem& getVideoSystem() { return videoSystem_; }
+    void setVideoSystem(const VideoSystem& videoSystem) { videoSystem_ = videoSystem; }
+    /// @}
+
+    /// The size of its pictures.
+    /// @{
+    const VideoResolution& getVideoResolution() const { return videoResolution_; }
+    VideoResolution& getVideoResolution() { return videoResolution_; }
+    void setVideoResolution(const VideoResolution& videoResolution) { videoResolution_ = videoResolution; }
+    /// @}
+
+private:
+    int cameraId_ = 0;
+    VideoSystem videoSystem_;
+    VideoResolution videoResolution_;
+};
+
+/// A kind of bit rate.
+class BitrateType
+{
+public:
+    /// Its number on the device.
+    int getBitrateTypeId() const { return bitrateTypeId_; }
+    void setBitrateTypeId(int bitrateTypeId) { bitrateTypeId_ = bitrateTypeId; }
+
+    /// Its name, for users.
+    const std::string& getBitrateTypeName() const { return bitrateTypeName_; }
+    void setBitrateTypeName(const std::string& bitrateTypeName) { bitrateTypeName_ = bitrateTypeName; }
+
+private:
+    int bitrateTypeId_ = 0;
+    std::string bitrateTypeName_;
+};
+
+/// A size of pictures, by number.
+class Resolution
+{
+public:
+    /// Its number on the device.
+    int getResolutionId() const { return resolutionId_; }
+    void setResolutionId(int resolutionId) { resolutionId_ = resolutionId; }
+
+    /// Its name, for users.
+    const std::string& getResolutionName() const { return resolutionName_; }
+    void setResolutionName(const std::string& resolutionName) { resolutionName_ = resolutionName; }
+
+private:
+    int resolutionId_ = 0;
+    std::string resolutionName_;
+};
+
+/// A format of pictures.
+class ImageFormat
+{
+public:
+    /// Its number on the device.
+    int getImageFormatId() const { return imageFormatId_; }
+    void setImageFormatId(int imageFormatId) { imageFormatId_ = imageFormatId; }
+
+    /// Its name, for users.
+    const std::string& getImageFormatName() const { return imageFormatName_; }
+    void setImageFormatName(const std::string& imageFormatName) { imageFormatName_ = imageFormatName; }
+
+private:
+    int imageFormatId_ = 0;
+    std::string imageFormatName_;
+};
+
+/// The format in which one camera sends its pictures.
+class DeviceImageFormat
+{
+public:
+    /// The device's identity on the network.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// The format's number on the device.
+    int getImageFormatId() const { return imageFormatId_; }
+    void setImageFormatId(int imageFormatId) { imageFormatId_ = imageFormatId; }
+
+private:
+    std::string deviceId_;
+    int cameraId_ = 0;
+    int imageFormatId_ = 0;
 };
