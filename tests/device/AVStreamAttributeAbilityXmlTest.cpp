@@ -96,6 +96,7 @@ TEST(AVStreamAttributeAbilityXml, KnowsTheValuesOfTheOtherFormNot)
     expected.setSVCStreamIDList({0});
     expectAVStreamAttributeAbility(expected, codec.getAVStreamAttributeAbility());
 
+    CapturedOutput output;
     AVStreamAttributeAbility read;
     ASSERT_TRUE(
         AVStreamAttributeAbilityXml().parseXmlString(golden("device/AVStreamAttributeAbilityXml.document.xml"), read));
