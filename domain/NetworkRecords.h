@@ -5,6 +5,7 @@
 ///
 /// Records are values: copyable, and 0, empty or false in every field when new. They are not locked.
 
+#include "domain/AlarmRecords.h"
 #include "domain/CoreRecords.h"
 
 #include <cstdint>
@@ -996,4 +997,896 @@ public:
 private:
     bool timeRebootEnableFlag_ = false;
     std::vector<RebootTime> rebootTimeList_;
+};
+
+/// How a device dials up.
+class PPPoEParam
+{
+public:
+    /// Whether the device dials up at all.
+    bool getPPPoEEnableFlag() const { return pppoeEnableFlag_; }
+    void setPPPoEEnableFlag(bool pppoeEnableFlag) { pppoeEnableFlag_ = pppoeEnableFlag; }
+
+    /// The name to log on with at the provider.
+    const std::string& getPPPoEUserName() const { return pppoeUserName_; }
+    void setPPPoEUserName(const std::string& pppoeUserName) { pppoeUserName_ = pppoeUserName; }
+
+    /// The password to log on with at the provider, as the caller gives it.
+    const std::string& getPPPoEPassword() const { return pppoePassword_; }
+    void setPPPoEPassword(const std::string& pppoePassword) { pppoePassword_ = pppoePassword; }
+
+private:
+    bool pppoeEnableFlag_ = false;
+    std::string pppoeUserName_;
+    std::string pppoePassword_;
+};
+
+/// How a device has its address found by a name.
+class DDNSParam
+{
+public:
+    /// Whether the device reports its address at all.
+    bool getDDNSEnableFlag() const { return ddnsEnableFlag_; }
+    void setDDNSEnableFlag(bool ddnsEnableFlag) { ddnsEnableFlag_ = ddnsEnableFlag; }
+
+    /// The provider, as the device numbers it.
+    int getDDNSProviderId() const { return ddnsProviderId_; }
+    void setDDNSProviderId(int ddnsProviderId) { ddnsProviderId_ = ddnsProviderId; }
+
+    /// The name to log on with at the provider.
+    const std::string& getDDNSAccounts() const { return ddnsAccounts_; }
+    void setDDNSAccounts(const std::string& ddnsAccounts) { ddnsAccounts_ = ddnsAccounts; }
+
+    /// The name that the device is to be found by.
+    const std::string& getDDNSDomainName() const { return ddnsDomainName_; }
+    void setDDNSDomainName(const std::string& ddnsDomainName) { ddnsDomainName_ = ddnsDomainName; }
+
+    /// The password to log on with at the provider, as the caller gives it.
+    const std::string& getDDNSPassword() const { return ddnsPassword_; }
+    void setDDNSPassword(const std::string& ddnsPassword) { ddnsPassword_ = ddnsPassword; }
+
+private:
+    bool ddnsEnableFlag_ = false;
+    int ddnsProviderId_ = 0;
+    std::string ddnsAccounts_;
+    std::string ddnsDomainName_;
+    std::string ddnsPassword_;
+};
+
+/// How a device has the address of one of its cards found by a name.
+class DDNSParamV2
+{
+public:
+    /// Whether the device reports its address at all.
+    bool getDDNSEnableFlag() const { return ddnsEnableFlag_; }
+    void setDDNSEnableFlag(bool ddnsEnableFlag) { ddnsEnableFlag_ = ddnsEnableFlag; }
+
+    /// The provider, as the device numbers it.
+    int getDDNSProviderId() const { return ddnsProviderId_; }
+    void setDDNSProviderId(int ddnsProviderId) { ddnsProviderId_ = ddnsProviderId; }
+
+    /// The name to log on with at the provider.
+    const std::string& getDDNSAccounts() const { return ddnsAccounts_; }
+    void setDDNSAccounts(const std::string& ddnsAccounts) { ddnsAccounts_ = ddnsAccounts; }
+
+    /// The name that the device is to be found by.
+    const std::string& getDDNSDomainName() const { return ddnsDomainName_; }
+    void setDDNSDomainName(const std::string& ddnsDomainName) { ddnsDomainName_ = ddnsDomainName; }
+
+    /// The password to log on with at the provider, as the caller gives it.
+    const std::string& getDDNSPassword() const { return ddnsPassword_; }
+    void setDDNSPassword(const std::string& ddnsPassword) { ddnsPassword_ = ddnsPassword; }
+
+    /// The card whose address is reported.
+    const std::string& getDDNSNetworkCardName() const { return ddnsNetworkCardName_; }
+    void setDDNSNetworkCardName(const std::string& ddnsNetworkCardName) { ddnsNetworkCardName_ = ddnsNetworkCardName; }
+
+private:
+    bool ddnsEnableFlag_ = false;
+    int ddnsProviderId_ = 0;
+    std::string ddnsAccounts_;
+    std::string ddnsDomainName_;
+    std::string ddnsPassword_;
+    std::string ddnsNetworkCardName_;
+};
+
+/// How a device has its address found by a name at the maker's own service.
+class ZentarDDNSParam
+{
+public:
+    /// Whether the device reports its address at all.
+    bool getDDNSEnableFlag() const { return ddnsEnableFlag_; }
+    void setDDNSEnableFlag(bool ddnsEnableFlag) { ddnsEnableFlag_ = ddnsEnableFlag; }
+
+    /// The name that the device is to be found by.
+    const std::string& getDDNSDomainName() const { return ddnsDomainName_; }
+    void setDDNSDomainName(const std::string& ddnsDomainName) { ddnsDomainName_ = ddnsDomainName; }
+
+    /// The card whose address is reported.
+    const std::string& getDDNSNetWorkCardName() const { return ddnsNetWorkCardName_; }
+    void setDDNSNetWorkCardName(const std::string& ddnsNetWorkCardName) { ddnsNetWorkCardName_ = ddnsNetWorkCardName; }
+
+private:
+    bool ddnsEnableFlag_ = false;
+    std::string ddnsDomainName_;
+    std::string ddnsNetWorkCardName_;
+};
+
+/// A provider of names for addresses.
+class DDNSProvider
+{
+public:
+    /// The provider, as the device numbers it.
+    int getProviderId() const { return providerId_; }
+    void setProviderId(int providerId) { providerId_ = providerId; }
+
+    /// Its name.
+    const std::string& getProviderName() const { return providerName_; }
+    void setProviderName(const std::string& providerName) { providerName_ = providerName; }
+
+private:
+    int providerId_ = 0;
+    std::string providerName_;
+};
+
+/// How addresses are reported to a provider of names.
+class DDNSInfo
+{
+public:
+    /// The provider, as the device numbers it.
+    int getDDNSProviderId() const { return ddnsProviderId_; }
+    void setDDNSProviderId(int ddnsProviderId) { ddnsProviderId_ = ddnsProviderId; }
+
+    /// The host to report the address to.
+    const std::string& getDDNSHostName() const { return ddnsHostName_; }
+    void setDDNSHostName(const std::string& ddnsHostName) { ddnsHostName_ = ddnsHostName; }
+
+    /// What to send there, in the words of the provider.
+    const std::string& getDDNSCommand() const { return ddnsCommand_; }
+    void setDDNSCommand(const std::string& ddnsCommand) { ddnsCommand_ = ddnsCommand; }
+
+private:
+    int ddnsProviderId_ = 0;
+    std::string ddnsHostName_;
+    std::string ddnsCommand_;
+};
+
+/// A wireless network, and how a device joins it.
+class WifiParam
+{
+public:
+    /// Whether the device uses the network at all.
+    bool getEnableFlag() const { return enableFlag_; }
+    void setEnableFlag(bool enableFlag) { enableFlag_ = enableFlag; }
+
+    /// The name of the network.
+    const std::string& getSSID() const { return ssid_; }
+    void setSSID(const std::string& ssid) { ssid_ = ssid; }
+
+    /// The password of the network, as the caller gives it.
+    const std::string& getPassword() const { return password_; }
+    void setPassword(const std::string& password) { password_ = password; }
+
+    /// Whether the network gives the device its addresses; the following are for when it does not.
+    bool getUseDynamicIPFlag() const { return useDynamicIPFlag_; }
+    void setUseDynamicIPFlag(bool useDynamicIPFlag) { useDynamicIPFlag_ = useDynamicIPFlag; }
+
+    /// Its address, as text.
+    const std::string& getStaticIP() const { return staticIP_; }
+    void setStaticIP(const std::string& staticIP) { staticIP_ = staticIP; }
+
+    /// The mask of its network, as text.
+    const std::string& getSubnetMask() const { return subnetMask_; }
+    void setSubnetMask(const std::string& subnetMask) { subnetMask_ = subnetMask; }
+
+    /// The way out of its network, as text.
+    const std::string& getGateway() const { return gateway_; }
+    void setGateway(const std::string& gateway) { gateway_ = gateway; }
+
+    /// The server of names, as text.
+    const std::string& getDNS() const { return dns_; }
+    void setDNS(const std::string& dns) { dns_ = dns; }
+
+private:
+    bool enableFlag_ = false;
+    std::string ssid_;
+    std::string password_;
+    bool useDynamicIPFlag_ = false;
+    std::string staticIP_;
+    std::string subnetMask_;
+    std::string gateway_;
+    std::string dns_;
+};
+
+/// A wireless network, and how a device joins it; the twin of WifiParam in the documents with the prefix "ZT_".
+class ZT_WifiParam
+{
+public:
+    /// Whether the device uses the network at all.
+    bool getEnableFlag() const { return enableFlag_; }
+    void setEnableFlag(bool enableFlag) { enableFlag_ = enableFlag; }
+
+    /// The name of the network.
+    const std::string& getSSID() const { return ssid_; }
+    void setSSID(const std::string& ssid) { ssid_ = ssid; }
+
+    /// The password of the network, as the caller gives it.
+    const std::string& getPassword() const { return password_; }
+    void setPassword(const std::string& password) { password_ = password; }
+
+    /// Whether the network gives the device its addresses; the following are for when it does not.
+    bool getUseDynamicIPFlag() const { return useDynamicIPFlag_; }
+    void setUseDynamicIPFlag(bool useDynamicIPFlag) { useDynamicIPFlag_ = useDynamicIPFlag; }
+
+    /// Its address, as text.
+    const std::string& getStaticIP() const { return staticIP_; }
+    void setStaticIP(const std::string& staticIP) { staticIP_ = staticIP; }
+
+    /// The mask of its network, as text.
+    const std::string& getSubnetMask() const { return subnetMask_; }
+    void setSubnetMask(const std::string& subnetMask) { subnetMask_ = subnetMask; }
+
+    /// The way out of its network, as text.
+    const std::string& getGateway() const { return gateway_; }
+    void setGateway(const std::string& gateway) { gateway_ = gateway; }
+
+    /// The server of names, as text.
+    const std::string& getDNS() const { return dns_; }
+    void setDNS(const std::string& dns) { dns_ = dns; }
+
+private:
+    bool enableFlag_ = false;
+    std::string ssid_;
+    std::string password_;
+    bool useDynamicIPFlag_ = false;
+    std::string staticIP_;
+    std::string subnetMask_;
+    std::string gateway_;
+    std::string dns_;
+};
+
+/// A wireless network in reach of a device.
+class WifiHotspotParam
+{
+public:
+    /// The name of the network.
+    const std::string& getSSID() const { return ssid_; }
+    void setSSID(const std::string& ssid) { ssid_ = ssid; }
+
+    /// How it is encrypted, in the words of the wireless driver.
+    const std::string& getEncryptionType() const { return encryptionType_; }
+    void setEncryptionType(const std::string& encryptionType) { encryptionType_ = encryptionType; }
+
+    /// How well it is received, as the wireless driver scales it.
+    int getSignalQuality() const { return signalQuality_; }
+    void setSignalQuality(int signalQuality) { signalQuality_ = signalQuality; }
+
+private:
+    std::string ssid_;
+    std::string encryptionType_;
+    int signalQuality_ = 0;
+};
+
+/// The addresses that a device has on its wireless network.
+class WifiNetworkParam
+{
+public:
+    /// Its address, as text.
+    const std::string& getIP() const { return ip_; }
+    void setIP(const std::string& ip) { ip_ = ip; }
+
+    /// The mask of its network, as text.
+    const std::string& getSubnetMask() const { return subnetMask_; }
+    void setSubnetMask(const std::string& subnetMask) { subnetMask_ = subnetMask; }
+
+    /// The way out of its network, as text.
+    const std::string& getGateway() const { return gateway_; }
+    void setGateway(const std::string& gateway) { gateway_ = gateway; }
+
+    /// The server of names that it asks first, as text.
+    const std::string& getPrimaryDNS() const { return primaryDNS_; }
+    void setPrimaryDNS(const std::string& primaryDNS) { primaryDNS_ = primaryDNS; }
+
+    /// The server of names that it asks otherwise, as text.
+    const std::string& getSpareDNS() const { return spareDNS_; }
+    void setSpareDNS(const std::string& spareDNS) { spareDNS_ = spareDNS; }
+
+private:
+    std::string ip_;
+    std::string subnetMask_;
+    std::string gateway_;
+    std::string primaryDNS_;
+    std::string spareDNS_;
+};
+
+/// How a device stands with its wireless network.
+class WifiStateParam
+{
+public:
+    /// How far the connection has come, as the wireless driver numbers it.
+    int getConnectState() const { return connectState_; }
+    void setConnectState(int connectState) { connectState_ = connectState; }
+
+    /// How well the network is received, as the wireless driver scales it.
+    int getSignalQuality() const { return signalQuality_; }
+    void setSignalQuality(int signalQuality) { signalQuality_ = signalQuality; }
+
+private:
+    int connectState_ = 0;
+    int signalQuality_ = 0;
+};
+
+/// The addresses that a device has on its mobile network.
+class I3GNetworkParam
+{
+public:
+    /// Its address, as text.
+    const std::string& getIP() const { return ip_; }
+    void setIP(const std::string& ip) { ip_ = ip; }
+
+    /// The mask of its network, as text.
+    const std::string& getSubnetMask() const { return subnetMask_; }
+    void setSubnetMask(const std::string& subnetMask) { subnetMask_ = subnetMask; }
+
+    /// The way out of its network, as text.
+    const std::string& getGateway() const { return gateway_; }
+    void setGateway(const std::string& gateway) { gateway_ = gateway; }
+
+    /// The server of names that it asks first, as text.
+    const std::string& getPrimaryDNS() const { return primaryDNS_; }
+    void setPrimaryDNS(const std::string& primaryDNS) { primaryDNS_ = primaryDNS; }
+
+    /// The server of names that it asks otherwise, as text.
+    const std::string& getSpareDNS() const { return spareDNS_; }
+    void setSpareDNS(const std::string& spareDNS) { spareDNS_ = spareDNS; }
+
+private:
+    std::string ip_;
+    std::string subnetMask_;
+    std::string gateway_;
+    std::string primaryDNS_;
+    std::string spareDNS_;
+};
+
+/// How a device stands with its mobile network.
+class I3GStateParam
+{
+public:
+    /// How far the connection has come, as the modem numbers it.
+    int getConnectState() const { return connectState_; }
+    void setConnectState(int connectState) { connectState_ = connectState; }
+
+    /// Who runs the network.
+    const std::string& getOperator() const { return operatorName_; }
+    void setOperator(const std::string& operatorName) { operatorName_ = operatorName; }
+
+    /// The kind of network, in the words of the modem.
+    const std::string& getNetType() const { return netType_; }
+    void setNetType(const std::string& netType) { netType_ = netType; }
+
+    /// How well the network is received, as the modem scales it.
+    int getSignalQuality() const { return signalQuality_; }
+    void setSignalQuality(int signalQuality) { signalQuality_ = signalQuality; }
+
+    /// The state of the card, as the modem numbers it.
+    int getSIMState() const { return simState_; }
+    void setSIMState(int simState) { simState_ = simState; }
+
+private:
+    int connectState_ = 0;
+    std::string operatorName_;
+    std::string netType_;
+    int signalQuality_ = 0;
+    int simState_ = 0;
+};
+
+/// Which text messages connect a device to its mobile network, and disconnect it.
+class I3GMessageConnectPolicyParam
+{
+public:
+    /// Whether messages are heeded at all.
+    bool getEnableFlag() const { return enableFlag_; }
+    void setEnableFlag(bool enableFlag) { enableFlag_ = enableFlag; }
+
+    /// The number whose message connects.
+    const std::string& getConnectMessagePhoneNO() const { return connectMessagePhoneNO_; }
+    void setConnectMessagePhoneNO(const std::string& connectMessagePhoneNO)
+    {
+        connectMessagePhoneNO_ = connectMessagePhoneNO;
+    }
+
+    /// What that message says.
+    const std::string& getConnectMessageContent() const { return connectMessageContent_; }
+    void setConnectMessageContent(const std::string& connectMessageContent)
+    {
+        connectMessageContent_ = connectMessageContent;
+    }
+
+    /// The number whose message disconnects.
+    const std::string& getDisconnectMessagePhoneNO() const { return disconnectMessagePhoneNO_; }
+    void setDisconnectMessagePhoneNO(const std::string& disconnectMessagePhoneNO)
+    {
+        disconnectMessagePhoneNO_ = disconnectMessagePhoneNO;
+    }
+
+    /// What that message says.
+    const std::string& getDisconnectMessageContent() const { return disconnectMessageContent_; }
+    void setDisconnectMessageContent(const std::string& disconnectMessageContent)
+    {
+        disconnectMessageContent_ = disconnectMessageContent;
+    }
+
+private:
+    bool enableFlag_ = false;
+    std::string connectMessagePhoneNO_;
+    std::string connectMessageContent_;
+    std::string disconnectMessagePhoneNO_;
+    std::string disconnectMessageContent_;
+};
+
+/// When a device is connected to its mobile network.
+class I3GTimeConnectPolicyParam
+{
+public:
+    /// Whether the schedule is heeded at all.
+    bool getEnableFlag() const { return enableFlag_; }
+    void setEnableFlag(bool enableFlag) { enableFlag_ = enableFlag; }
+
+    /// How the connection is kept, as the modem numbers it.
+    int getOnlineMode() const { return onlineMode_; }
+    void setOnlineMode(int onlineMode) { onlineMode_ = onlineMode; }
+
+    /// When the device is connected.
+    /// @{
+    const ScheduleTimeParam& getScheduleTimeParam() const { return scheduleTimeParam_; }
+    ScheduleTimeParam& getScheduleTimeParam() { return scheduleTimeParam_; }
+    void setScheduleTimeParam(const ScheduleTimeParam& scheduleTimeParam) { scheduleTimeParam_ = scheduleTimeParam; }
+    /// @}
+
+private:
+    bool enableFlag_ = false;
+    int onlineMode_ = 0;
+    ScheduleTimeParam scheduleTimeParam_;
+};
+
+/// When a device connects to its mobile network.
+class I3GPolicyParam
+{
+public:
+    /// Whether the device uses the mobile network at all.
+    bool getEnableFlag() const { return enableFlag_; }
+    void setEnableFlag(bool enableFlag) { enableFlag_ = enableFlag; }
+
+    /// The text messages that connect the device.
+    /// @{
+    const I3GMessageConnectPolicyParam& get3GMessageConnectPolicyParam() const { return messageConnectPolicyParam_; }
+    I3GMessageConnectPolicyParam& get3GMessageConnectPolicyParam() { return messageConnectPolicyParam_; }
+    void set3GMessageConnectPolicyParam(const I3GMessageConnectPolicyParam& messageConnectPolicyParam)
+    {
+        messageConnectPolicyParam_ = messageConnectPolicyParam;
+    }
+    /// @}
+
+    /// The times at which it is connected.
+    /// @{
+    const I3GTimeConnectPolicyParam& get3GTimeConnectPolicyParam() const { return timeConnectPolicyParam_; }
+    I3GTimeConnectPolicyParam& get3GTimeConnectPolicyParam() { return timeConnectPolicyParam_; }
+    void set3GTimeConnectPolicyParam(const I3GTimeConnectPolicyParam& timeConnectPolicyParam)
+    {
+        timeConnectPolicyParam_ = timeConnectPolicyParam;
+    }
+    /// @}
+
+private:
+    bool enableFlag_ = false;
+    I3GMessageConnectPolicyParam messageConnectPolicyParam_;
+    I3GTimeConnectPolicyParam timeConnectPolicyParam_;
+};
+
+/// The four servers that a device registers with.
+class CMSRegisterServerParam
+{
+public:
+    /// Address of the first server, as text.
+    const std::string& getRegisterSrvIP1() const { return registerSrvIP1_; }
+    void setRegisterSrvIP1(const std::string& registerSrvIP1) { registerSrvIP1_ = registerSrvIP1; }
+
+    /// Its port.
+    int getRegisterSrvPort1() const { return registerSrvPort1_; }
+    void setRegisterSrvPort1(int registerSrvPort1) { registerSrvPort1_ = registerSrvPort1; }
+
+    /// Address of the second server, as text.
+    const std::string& getRegisterSrvIP2() const { return registerSrvIP2_; }
+    void setRegisterSrvIP2(const std::string& registerSrvIP2) { registerSrvIP2_ = registerSrvIP2; }
+
+    /// Its port.
+    int getRegisterSrvPort2() const { return registerSrvPort2_; }
+    void setRegisterSrvPort2(int registerSrvPort2) { registerSrvPort2_ = registerSrvPort2; }
+
+    /// Address of the third server, as text.
+    const std::string& getRegisterSrvIP3() const { return registerSrvIP3_; }
+    void setRegisterSrvIP3(const std::string& registerSrvIP3) { registerSrvIP3_ = registerSrvIP3; }
+
+    /// Its port.
+    int getRegisterSrvPort3() const { return registerSrvPort3_; }
+    void setRegisterSrvPort3(int registerSrvPort3) { registerSrvPort3_ = registerSrvPort3; }
+
+    /// Address of the fourth server, as text.
+    const std::string& getRegisterSrvIP4() const { return registerSrvIP4_; }
+    void setRegisterSrvIP4(const std::string& registerSrvIP4) { registerSrvIP4_ = registerSrvIP4; }
+
+    /// Its port.
+    int getRegisterSrvPort4() const { return registerSrvPort4_; }
+    void setRegisterSrvPort4(int registerSrvPort4) { registerSrvPort4_ = registerSrvPort4; }
+
+private:
+    std::string registerSrvIP1_;
+    int registerSrvPort1_ = 0;
+    std::string registerSrvIP2_;
+    int registerSrvPort2_ = 0;
+    std::string registerSrvIP3_;
+    int registerSrvPort3_ = 0;
+    std::string registerSrvIP4_;
+    int registerSrvPort4_ = 0;
+};
+
+/// Three values of free meaning for the server that a device registers with.
+class CMSExternConfigParam
+{
+public:
+    /// The first value; what it stands for is between the device and its server.
+    const std::string& getExternConfig1() const { return externConfig1_; }
+    void setExternConfig1(const std::string& externConfig1) { externConfig1_ = externConfig1; }
+
+    /// The second value.
+    const std::string& getExternConfig2() const { return externConfig2_; }
+    void setExternConfig2(const std::string& externConfig2) { externConfig2_ = externConfig2; }
+
+    /// The third value.
+    const std::string& getExternConfig3() const { return externConfig3_; }
+    void setExternConfig3(const std::string& externConfig3) { externConfig3_ = externConfig3; }
+
+private:
+    std::string externConfig1_;
+    std::string externConfig2_;
+    std::string externConfig3_;
+};
+
+/// Under which identity a device registers.
+class CMSDeviceRegisterInfoParam
+{
+public:
+    /// The identity that the device registers under.
+    const std::string& getDeviceRegisterID() const { return deviceRegisterID_; }
+    void setDeviceRegisterID(const std::string& deviceRegisterID) { deviceRegisterID_ = deviceRegisterID; }
+
+private:
+    std::string deviceRegisterID_;
+};
+
+/// Under which identity a camera registers.
+class CMSCameraRegisterInfoParam
+{
+public:
+    /// The camera's number on the device.
+    int getCameraID() const { return cameraID_; }
+    void setCameraID(int cameraID) { cameraID_ = cameraID; }
+
+    /// The identity that the camera registers under.
+    const std::string& getCameraRegisterID() const { return cameraRegisterID_; }
+    void setCameraRegisterID(const std::string& cameraRegisterID) { cameraRegisterID_ = cameraRegisterID; }
+
+private:
+    int cameraID_ = 0;
+    std::string cameraRegisterID_;
+};
+
+/// How a device registers with a central server: where, and under which identities.
+class CMSRegisterParam
+{
+public:
+    /// The identity of the device.
+    /// @{
+    const CMSDeviceRegisterInfoParam& getCMSDeviceRegisterInfoParam() const { return cmsDeviceRegisterInfoParam_; }
+    CMSDeviceRegisterInfoParam& getCMSDeviceRegisterInfoParam() { return cmsDeviceRegisterInfoParam_; }
+    void setCMSDeviceRegisterInfoParam(const CMSDeviceRegisterInfoParam& cmsDeviceRegisterInfoParam)
+    {
+        cmsDeviceRegisterInfoParam_ = cmsDeviceRegisterInfoParam;
+    }
+    /// @}
+
+    /// Values of free meaning.
+    /// @{
+    const CMSExternConfigParam& getCMSExternConfigParam() const { return cmsExternConfigParam_; }
+    CMSExternConfigParam& getCMSExternConfigParam() { return cmsExternConfigParam_; }
+    void setCMSExternConfigParam(const CMSExternConfigParam& cmsExternConfigParam)
+    {
+        cmsExternConfigParam_ = cmsExternConfigParam;
+    }
+    /// @}
+
+    /// The servers.
+    /// @{
+    const CMSRegisterServerParam& getCMSRegisterServerParam() const { return cmsRegisterServerParam_; }
+    CMSRegisterServerParam& getCMSRegisterServerParam() { return cmsRegisterServerParam_; }
+    void setCMSRegisterServerParam(const CMSRegisterServerParam& cmsRegisterServerParam)
+    {
+        cmsRegisterServerParam_ = cmsRegisterServerParam;
+    }
+    /// @}
+
+    /// The identities of the cameras.
+    /// @{
+    const std::vector<CMSCameraRegisterInfoParam>& getCMSCameraRegisterInfoParamList() const
+    {
+        return cmsCameraRegisterInfoParamList_;
+    }
+    std::vector<CMSCameraRegisterInfoParam>& getCMSCameraRegisterInfoParamList()
+    {
+        return cmsCameraRegisterInfoParamList_;
+    }
+    void
+    setCMSCameraRegisterInfoParamList(const std::vector<CMSCameraRegisterInfoParam>& cmsCameraRegisterInfoParamList)
+    {
+        cmsCameraRegisterInfoParamList_ = cmsCameraRegisterInfoParamList;
+    }
+    /// @}
+
+private:
+    CMSDeviceRegisterInfoParam cmsDeviceRegisterInfoParam_;
+    CMSExternConfigParam cmsExternConfigParam_;
+    CMSRegisterServerParam cmsRegisterServerParam_;
+    std::vector<CMSCameraRegisterInfoParam> cmsCameraRegisterInfoParamList_;
+};
+
+/// One of the servers that a device registers with.
+class CMSRegisterServerParamV2
+{
+public:
+    /// The server's name.
+    const std::string& getRegisterSrvName() const { return registerSrvName_; }
+    void setRegisterSrvName(const std::string& registerSrvName) { registerSrvName_ = registerSrvName; }
+
+    /// Its address, as text.
+    const std::string& getRegisterSrvIP() const { return registerSrvIP_; }
+    void setRegisterSrvIP(const std::string& registerSrvIP) { registerSrvIP_ = registerSrvIP; }
+
+    /// Its port.
+    int getRegisterSrvPort() const { return registerSrvPort_; }
+    void setRegisterSrvPort(int registerSrvPort) { registerSrvPort_ = registerSrvPort; }
+
+private:
+    std::string registerSrvName_;
+    std::string registerSrvIP_;
+    int registerSrvPort_ = 0;
+};
+
+/// A value of free meaning, under its name, for the server that a device registers with.
+class CMSExternConfigParamV2
+{
+public:
+    /// The value's name.
+    const std::string& getExternConfigName() const { return externConfigName_; }
+    void setExternConfigName(const std::string& externConfigName) { externConfigName_ = externConfigName; }
+
+    /// The value; what it stands for is between the device and its server.
+    const std::string& getExternConfigValue() const { return externConfigValue_; }
+    void setExternConfigValue(const std::string& externConfigValue) { externConfigValue_ = externConfigValue; }
+
+private:
+    std::string externConfigName_;
+    std::string externConfigValue_;
+};
+
+/// How a device registers with central servers: with which, by which protocol, and under which identities. To its
+/// setters a null text is an empty one.
+class CMSRegisterInfoParam
+{
+public:
+    /// The name of the protocol.
+    const std::string& getProtocolName() const { return protocolName_; }
+    void setProtocolName(const char* protocolName) { protocolName_ = protocolName != nullptr ? protocolName : ""; }
+
+    /// Its version.
+    const std::string& getProtocolVersion() const { return protocolVersion_; }
+    void setProtocolVersion(const char* protocolVersion)
+    {
+        protocolVersion_ = protocolVersion != nullptr ? protocolVersion : "";
+    }
+
+    /// How far the registration has come, in the words of the device.
+    const std::string& getDeviceProtocolState() const { return deviceProtocolState_; }
+    void setDeviceProtocolState(const char* deviceProtocolState)
+    {
+        deviceProtocolState_ = deviceProtocolState != nullptr ? deviceProtocolState : "";
+    }
+
+    /// The servers.
+    /// @{
+    const std::vector<CMSRegisterServerParamV2>& getCMSRegisterServerParam() const { return cmsRegisterServerParam_; }
+    std::vector<CMSRegisterServerParamV2>& getCMSRegisterServerParam() { return cmsRegisterServerParam_; }
+    void setCMSRegisterServerParam(const std::vector<CMSRegisterServerParamV2>& cmsRegisterServerParam)
+    {
+        cmsRegisterServerParam_ = cmsRegisterServerParam;
+    }
+    /// @}
+
+    /// The identities of the devices.
+    /// @{
+    const std::vector<CMSDeviceRegisterInfoParam>& getCMSDeviceRegisterInfoParam() const
+    {
+        return cmsDeviceRegisterInfoParam_;
+    }
+    std::vector<CMSDeviceRegisterInfoParam>& getCMSDeviceRegisterInfoParam() { return cmsDeviceRegisterInfoParam_; }
+    void setCMSDeviceRegisterInfoParam(const std::vector<CMSDeviceRegisterInfoParam>& cmsDeviceRegisterInfoParam)
+    {
+        cmsDeviceRegisterInfoParam_ = cmsDeviceRegisterInfoParam;
+    }
+    /// @}
+
+    /// The identities of the cameras.
+    /// @{
+    const std::vector<CMSCameraRegisterInfoParam>& getCMSCameraRegisterInfoParam() const
+    {
+        return cmsCameraRegisterInfoParam_;
+    }
+    std::vector<CMSCameraRegisterInfoParam>& getCMSCameraRegisterInfoParam() { return cmsCameraRegisterInfoParam_; }
+    void setCMSCameraRegisterInfoParam(const std::vector<CMSCameraRegisterInfoParam>& cmsCameraRegisterInfoParam)
+    {
+        cmsCameraRegisterInfoParam_ = cmsCameraRegisterInfoParam;
+    }
+    /// @}
+
+    /// Values of free meaning.
+    /// @{
+    const std::vector<CMSExternConfigParamV2>& getCMSExternConfigParam() const { return cmsExternConfigParam_; }
+    std::vector<CMSExternConfigParamV2>& getCMSExternConfigParam() { return cmsExternConfigParam_; }
+    void setCMSExternConfigParam(const std::vector<CMSExternConfigParamV2>& cmsExternConfigParam)
+    {
+        cmsExternConfigParam_ = cmsExternConfigParam;
+    }
+    /// @}
+
+private:
+    std::string protocolName_;
+    std::string protocolVersion_;
+    std::string deviceProtocolState_;
+    std::vector<CMSRegisterServerParamV2> cmsRegisterServerParam_;
+    std::vector<CMSDeviceRegisterInfoParam> cmsDeviceRegisterInfoParam_;
+    std::vector<CMSCameraRegisterInfoParam> cmsCameraRegisterInfoParam_;
+    std::vector<CMSExternConfigParamV2> cmsExternConfigParam_;
+};
+
+/// One protocol that a device speaks with its server.
+class ProtocolConfigParamItem
+{
+public:
+    /// The name of the protocol.
+    const std::string& getProtocolName() const { return protocolName_; }
+    void setProtocolName(const std::string& protocolName) { protocolName_ = protocolName; }
+
+    /// Its version.
+    const std::string& getProtocolVersion() const { return protocolVersion_; }
+    void setProtocolVersion(const std::string& protocolVersion) { protocolVersion_ = protocolVersion; }
+
+    /// Whether the device speaks it at present.
+    bool getEnableFlag() const { return enableFlag_; }
+    void setEnableFlag(const bool& enableFlag) { enableFlag_ = enableFlag; }
+
+private:
+    std::string protocolName_;
+    std::string protocolVersion_;
+    bool enableFlag_ = false;
+};
+
+/// The protocols that a device speaks with its server.
+class ProtocolConfigParam
+{
+public:
+    /// The protocols, in order.
+    const std::vector<ProtocolConfigParamItem>& getProtocolConfigParam() const { return items_; }
+    /// Appends a protocol.
+    void setProtocolConfigParam(const ProtocolConfigParamItem& item) { items_.push_back(item); }
+
+private:
+    std::vector<ProtocolConfigParamItem> items_;
+};
+
+/// Which protocol a device speaks with its server.
+class CMSProtocolParam
+{
+public:
+    /// The name of the protocol.
+    const std::string& getProtocolName() const { return protocolName_; }
+    void setProtocolName(const std::string& protocolName) { protocolName_ = protocolName; }
+
+    /// Its version.
+    const std::string& getProtocolVersion() const { return protocolVersion_; }
+    void setProtocolVersion(const std::string& protocolVersion) { protocolVersion_ = protocolVersion; }
+
+    /// The version of the device's software for it.
+    const std::string& getProtocolSoftwareVersion() const { return protocolSoftwareVersion_; }
+    void setProtocolSoftwareVersion(const std::string& protocolSoftwareVersion)
+    {
+        protocolSoftwareVersion_ = protocolSoftwareVersion;
+    }
+
+private:
+    std::string protocolName_;
+    std::string protocolVersion_;
+    std::string protocolSoftwareVersion_;
+};
+
+/// A kind of protocol that a device can speak.
+class ProtocolTypeInfo
+{
+public:
+    /// The name of the protocol.
+    const std::string& getProtocolName() const { return protocolName_; }
+    void setProtocolName(const std::string& protocolName) { protocolName_ = protocolName; }
+
+    /// Its identity.
+    const std::string& getProtocolId() const { return protocolId_; }
+    void setProtocolId(const std::string& protocolId) { protocolId_ = protocolId; }
+
+    /// What kind it is, as the device numbers it.
+    int getProtocolConfigType() const { return protocolConfigType_; }
+    void setProtocolConfigType(int protocolConfigType) { protocolConfigType_ = protocolConfigType; }
+
+    /// Whether the device speaks it at present.
+    bool getProtocolEnable() const { return protocolEnable_; }
+    void setProtocolEnableFlag(bool protocolEnable) { protocolEnable_ = protocolEnable; }
+
+private:
+    std::string protocolName_;
+    std::string protocolId_;
+    int protocolConfigType_ = 0;
+    bool protocolEnable_ = false;
+};
+
+/// How a device verifies the users of a protocol.
+class ProtocolSecurityParam
+{
+public:
+    /// Whether users are verified at all.
+    bool getUserVerificationFlag() const { return userVerificationFlag_; }
+    void setUserVerificationFlag(bool userVerificationFlag) { userVerificationFlag_ = userVerificationFlag; }
+
+    /// How users are verified, as the device numbers it.
+    int getSecurityVerificationType() const { return securityVerificationType_; }
+    void setSecurityVerificationType(int securityVerificationType)
+    {
+        securityVerificationType_ = securityVerificationType;
+    }
+
+private:
+    bool userVerificationFlag_ = false;
+    int securityVerificationType_ = 0;
+};
+
+/// The server that a device registers with.
+class RegisterParam
+{
+public:
+    /// Whether the device registers at all.
+    bool getRegisterEnableFlag() const { return registerEnableFlag_; }
+    void setRegisterEnableFlag(bool registerEnableFlag) { registerEnableFlag_ = registerEnableFlag; }
+
+    /// The server's address, as text.
+    const std::string& getRegisterServerIP() const { return registerServerIP_; }
+    void setRegisterServerIP(const std::string& registerServerIP) { registerServerIP_ = registerServerIP; }
+
+    /// The server's port.
+    std::uint16_t getRegisterServerPort() const { return registerServerPort_; }
+    void setRegisterServerPort(std::uint16_t registerServerPort) { registerServerPort_ = registerServerPort; }
+
+    /// Version of the Internet protocol, as the device numbers it.
+    int getIPProtoVer() const { return ipProtoVer_; }
+    void setIPProtoVer(int ipProtoVer) { ipProtoVer_ = ipProtoVer; }
+
+private:
+    bool registerEnableFlag_ = false;
+    std::string registerServerIP_;
+    std::uint16_t registerServerPort_ = 0;
+    int ipProtoVer_ = 0;
 };
