@@ -7,6 +7,7 @@
 /// texts like any other: nothing here checks, hashes or wipes them.
 
 #include "domain/CoreRecords.h"
+#include "domain/NetworkRecords.h"
 
 #include <cstdint>
 #include <string>
@@ -145,6 +146,23 @@ private:
     int groupId_ = 0;
     std::string groupName_;
     std::string desc_;
+};
+
+/// Which addresses may reach a device.
+class NetworkPrivilegeInfo
+{
+public:
+    /// Whether the ranges are let in or kept out, as the device numbers it.
+    int getIpConfigType() const { return ipConfigType_; }
+    void setIpConfigType(int ipConfigType) { ipConfigType_ = ipConfigType; }
+
+    /// The ranges, copied in place of what @p ipRangeInfo held.
+    void getIpRangeInfo(std::vector<IpRangeInfo>& ipRangeInfo) const { ipRangeInfo = ipRangeInfo_; }
+    void setIpRangeInfo(const std::vector<IpRangeInfo>& ipRangeInfo) { ipRangeInfo_ = ipRangeInfo; }
+
+private:
+    int ipConfigType_ = 0;
+    std::vector<IpRangeInfo> ipRangeInfo_;
 };
 
 /// How a device lets users in.

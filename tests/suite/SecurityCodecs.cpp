@@ -5,6 +5,7 @@
 #include "security/LogInfoXml.h"
 #include "security/LogRequestParamExXml.h"
 #include "security/LogRequestParamXml.h"
+#include "security/NetworkPrivilegeInfoXml.h"
 #include "security/PrivilegeGroupXml.h"
 #include "security/PrivilegeUserXml.h"
 #include "security/PrivilegeXml.h"
@@ -39,6 +40,8 @@ std::vector<CodecCase> securityCodecs()
         {"security", "LogInfoXml", "document", rewriteDocument<LogInfoXml>},
         {"security", "LogRequestParamExXml", "document", rewriteDocument<LogRequestParamExXml>},
         {"security", "LogRequestParamXml", "document", rewriteDocument<LogRequestParamXml>},
+        {"security", "NetworkPrivilegeInfoXml", "node", rewriteText<NetworkPrivilegeInfoXml, NetworkPrivilegeInfo>},
+        {"security", "NetworkPrivilegeInfoXml", "list", rewriteText<NetworkPrivilegeInfoXml, std::vector<NetworkPrivilegeInfo>>},
         {"security", "PrivilegeGroupXml", "node", rewriteText<PrivilegeGroupXml, PrivilegeGroup>},
         {"security", "PrivilegeGroupXml", "list", rewriteText<PrivilegeGroupXml, std::vector<PrivilegeGroup>>},
         {"security", "PrivilegeUserXml", "document", rewriteDocument<PrivilegeUserXml>},
