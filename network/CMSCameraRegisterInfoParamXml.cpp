@@ -1,6 +1,8 @@
 // <CameraRegisterInfoParamList>
 //     <CameraRegisterInfoParam CameraID="3" CameraRegisterID="R-17-3" />
 // </CameraRegisterInfoParamList>
+//
+// These names lack the "CMS" that the same elements have inside a "CMSRegisterParam".
 
 #include "network/CMSCameraRegisterInfoParamXml.h"
 

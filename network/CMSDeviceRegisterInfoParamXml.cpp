@@ -1,4 +1,6 @@
 // <DeviceRegisterInfoParam DeviceRegisterID="R-17" />
+//
+// The root lacks the "CMS" that the same element has inside a "CMSRegisterParam".
 
 #include "network/CMSDeviceRegisterInfoParamXml.h"
 

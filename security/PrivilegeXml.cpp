@@ -2,6 +2,8 @@
 //     <PrivilegeString String="Preview" />
 //     <PrivilegeString String="Playback" />
 // </Privilege>
+//
+// The group's attribute is whole here, where the accounts have "GroupI".
 
 #include "security/PrivilegeXml.h"
 

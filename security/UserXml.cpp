@@ -1,4 +1,6 @@
 // <User SourceId="S-9" HostOrderIP="192.0.2.9" Port="40999" UserName="operator" Password="not told" />
+//
+// The peers call the address "HostOrderIP", but what stands there is text, and has no byte order.
 
 #include "security/UserXml.h"
 
