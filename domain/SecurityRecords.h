@@ -243,11 +243,14 @@ class DeviceSecurityParam
 {
 public:
     /// How it protects what it sends.
+    /// @{
     const CommunicationSecurityParam& getCommunicationSecurityParam() const { return communicationSecurityParam_; }
+    CommunicationSecurityParam& getCommunicationSecurityParam() { return communicationSecurityParam_; }
     void setCommunicationSecurityParam(const CommunicationSecurityParam& communicationSecurityParam)
     {
         communicationSecurityParam_ = communicationSecurityParam;
     }
+    /// @}
 
 private:
     CommunicationSecurityParam communicationSecurityParam_;
@@ -275,8 +278,11 @@ class SystemUserParam
 {
 public:
     /// Whose password it is, with the one in force.
+    /// @{
     const SystemUser& getSystemUser() const { return systemUser_; }
+    SystemUser& getSystemUser() { return systemUser_; }
     void setSystemUser(const SystemUser& systemUser) { systemUser_ = systemUser; }
+    /// @}
 
     /// The password that takes its place, as the caller gives it.
     const std::string& getNewPassword() const { return newPassword_; }
@@ -407,8 +413,11 @@ public:
     void setNewParamInfo(const std::string& newParamInfo) { newParamInfo_ = newParamInfo; }
 
     /// When it happened.
+    /// @{
     const TimeStruct& getLogTime() const { return logTime_; }
+    TimeStruct& getLogTime() { return logTime_; }
     void setLogTime(const TimeStruct& logTime) { logTime_ = logTime; }
+    /// @}
 
 private:
     std::string deviceId_;
@@ -508,12 +517,18 @@ public:
     void setMinorType(int minorType) { minorType_ = minorType; }
 
     /// From when on the search is to cover.
+    /// @{
     const TimeStruct& getStartTime() const { return startTime_; }
+    TimeStruct& getStartTime() { return startTime_; }
     void setStartTime(const TimeStruct& startTime) { startTime_ = startTime; }
+    /// @}
 
     /// Until when the search is to cover.
+    /// @{
     const TimeStruct& getEndTime() const { return endTime_; }
+    TimeStruct& getEndTime() { return endTime_; }
     void setEndTime(const TimeStruct& endTime) { endTime_ = endTime; }
+    /// @}
 
 private:
     std::string deviceId_;
