@@ -137,8 +137,7 @@ bool BlindAreaParamXml::createDomainXmlNode(const BlindAreaParam& area, SafePoin
     }
 
     SafePointer<DomainXmlNode> mosaic = frame::appendNode(node, "MosaicParam");
-    if (!MosaicParamXml().createDomainXmlNode(area.getMosaic(), mosaic)) return false;
-    return true;
+    return MosaicParamXml().createDomainXmlNode(area.getMosaic(), mosaic);
 }
 
 bool BlindAreaParamXml::createDomainXmlNode(const std::vector<BlindAreaParam>& areas,

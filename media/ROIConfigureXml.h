@@ -9,7 +9,7 @@
 
 /// The favoured regions of several streams: the "ROIConfigureList" document.
 ///
-/// A missing "StreamID" gives 0. A stream's regions are its children of that name; others are passed over.
+/// A missing "StreamID" gives 0. A stream's regions are its children named "ROIInfoParam"; others are passed over.
 class ROIConfigureXml : public IDomainXml
 {
 public:

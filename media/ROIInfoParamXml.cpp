@@ -26,8 +26,7 @@ bool ROIInfoParamXml::createDomainXmlNode(const ROIInfoParam& region, SafePointe
     node->setProperty("ROILevel", region.getROILevel());
 
     SafePointer<DomainXmlNode> area = frame::appendNode(node, "AreaParam");
-    if (!AreaParamXml().createDomainXmlNode(region.getAreaParam(), area)) return false;
-    return true;
+    return AreaParamXml().createDomainXmlNode(region.getAreaParam(), area);
 }
 
 bool ROIInfoParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, ROIInfoParam& region) const

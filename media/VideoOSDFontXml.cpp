@@ -1,7 +1,6 @@
 // <OSDFontList>
 //     <OSDFont CameraID="1" StreamID="2" InverseFlag="true" FontID="3" Red="255" Green="128" Blue="0" Alpha="100"
-//     Red1="0"
-//              Green1="0" Blue1="0" Alpha1="100" />
+//              Red1="0" Green1="0" Blue1="0" Alpha1="100" />
 // </OSDFontList>
 //
 // "OSDFontList" is also a container of texts in other documents: the command that carries a text tells which it is.
