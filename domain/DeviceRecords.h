@@ -2704,3 +2704,29 @@ private:
     int cameraId_ = 0;
     int imageFormatId_ = 0;
 };
+
+/// The favoured regions of one camera of a device.
+class DeviceROIInfoParam
+{
+public:
+    /// The camera.
+    /// @{
+    const CameraInfo& getCameraInfo() const { return cameraInfo_; }
+    CameraInfo& getCameraInfo() { return cameraInfo_; }
+    void setCameraInfo(const CameraInfo& cameraInfo) { cameraInfo_ = cameraInfo; }
+    /// @}
+
+    /// Its regions.
+    /// @{
+    const std::vector<ROIInfoParam>& getROIInfoParamList() const { return roiInfoParamList_; }
+    std::vector<ROIInfoParam>& getROIInfoParamList() { return roiInfoParamList_; }
+    void setROIInfoParamList(const std::vector<ROIInfoParam>& roiInfoParamList)
+    {
+        roiInfoParamList_ = roiInfoParamList;
+    }
+    /// @}
+
+private:
+    CameraInfo cameraInfo_;
+    std::vector<ROIInfoParam> roiInfoParamList_;
+};

@@ -10,6 +10,7 @@
 #include "media/BlindAreaParamXml.h"
 #include "media/DeviceAVStreamParamXml.h"
 #include "media/DeviceOSDInfoXml.h"
+#include "media/DeviceROIInfoParamXml.h"
 #include "media/DeviceVideoEncodeQualityXml.h"
 #include "media/EncodeQualityXml.h"
 #include "media/LoudhailerParamXml.h"
@@ -67,6 +68,8 @@ std::vector<CodecCase> mediaCodecs()
         {"media", "DeviceAVStreamParamXml", "node", rewriteText<DeviceAVStreamParamXml, DeviceAVStreamParam>},
         {"media", "DeviceAVStreamParamXml", "list", rewriteText<DeviceAVStreamParamXml, std::vector<DeviceAVStreamParam>>},
         {"media", "DeviceOSDInfoXml", "node", rewriteText<DeviceOSDInfoXml, DeviceOSDInfo>},
+        {"media", "DeviceROIInfoParamXml", "node", rewriteText<DeviceROIInfoParamXml, DeviceROIInfoParam>},
+        {"media", "DeviceROIInfoParamXml", "list", rewriteText<DeviceROIInfoParamXml, std::vector<DeviceROIInfoParam>>},
         {"media", "DeviceVideoEncodeQualityXml", "node", rewriteText<DeviceVideoEncodeQualityXml, DeviceVideoEncodeQuality>},
         {"media", "DeviceVideoEncodeQualityXml", "list", rewriteText<DeviceVideoEncodeQualityXml, std::vector<DeviceVideoEncodeQuality>>},
         {"media", "EncodeQualityXml", "document", rewriteDocument<EncodeQualityXml>},
