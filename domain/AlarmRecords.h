@@ -1289,3 +1289,523 @@ private:
     int majorAlarmType_ = 0;
     int alarmType_ = 0;
 };
+
+/// An alarm input of a device.
+class AlarmInDevice
+{
+public:
+    /// The number of the input on the device.
+    int getAlarmInId() const { return alarmInId_; }
+    void setAlarmInId(int alarmInId) { alarmInId_ = alarmInId; }
+
+    /// Its name, as set by the user.
+    const std::string& getAlarmInName() const { return alarmInName_; }
+    void setAlarmInName(const std::string& alarmInName) { alarmInName_ = alarmInName; }
+
+    /// The level that counts as an alarm, as the device numbers it.
+    int getAlarmInValidLevel() const { return alarmInValidLevel_; }
+    void setAlarmInValidLevel(int alarmInValidLevel) { alarmInValidLevel_ = alarmInValidLevel; }
+
+private:
+    int alarmInId_ = 0;
+    std::string alarmInName_;
+    int alarmInValidLevel_ = 0;
+};
+
+/// Which alarm input is meant.
+class AlarmInDeviceInfo
+{
+public:
+    /// The number of the input on the device.
+    int getAlarmInId() const { return alarmInId_; }
+    void setAlarmInId(int alarmInId) { alarmInId_ = alarmInId; }
+
+    /// Its name, as set by the user.
+    const std::string& getAlarmInName() const { return alarmInName_; }
+    void setAlarmInName(const std::string& alarmInName) { alarmInName_ = alarmInName; }
+
+private:
+    int alarmInId_ = 0;
+    std::string alarmInName_;
+};
+
+/// Which alarm output is meant.
+class AlarmOutDeviceInfo
+{
+public:
+    /// The number of the output on the device.
+    int getAlarmOutId() const { return alarmOutId_; }
+    void setAlarmOutId(int alarmOutId) { alarmOutId_ = alarmOutId; }
+
+    /// Its name, as set by the user.
+    const std::string& getAlarmOutName() const { return alarmOutName_; }
+    void setAlarmOutName(const std::string& alarmOutName) { alarmOutName_ = alarmOutName; }
+
+private:
+    int alarmOutId_ = 0;
+    std::string alarmOutName_;
+};
+
+/// An alarm output of a device.
+class AlarmOutDevice
+{
+public:
+    /// The number of the output on the device.
+    int getAlarmOutId() const { return alarmOutId_; }
+    void setAlarmOutId(int alarmOutId) { alarmOutId_ = alarmOutId; }
+
+    /// Its name, as set by the user.
+    const std::string& getAlarmOutName() const { return alarmOutName_; }
+    void setAlarmOutName(const std::string& alarmOutName) { alarmOutName_ = alarmOutName; }
+
+    /// The signal that drives it, as the device numbers it.
+    int getAlarmValidSignal() const { return alarmValidSignal_; }
+    void setAlarmValidSignal(int alarmValidSignal) { alarmValidSignal_ = alarmValidSignal; }
+
+    /// How it is driven, as the device numbers it.
+    int getAlarmMode() const { return alarmMode_; }
+    void setAlarmMode(int alarmMode) { alarmMode_ = alarmMode; }
+
+    /// The frequency of a pulsed output, in the device's unit.
+    float getAlarmOutFrequency() const { return alarmOutFrequency_; }
+    void setAlarmOutFrequency(float alarmOutFrequency) { alarmOutFrequency_ = alarmOutFrequency; }
+
+    /// How long it stays on, in the device's unit.
+    int getAlarmTime() const { return alarmTime_; }
+    void setAlarmTime(int alarmTime) { alarmTime_ = alarmTime; }
+
+    /// Since when it is on, in the device's unit.
+    long getActivatedStartTime() const { return activatedStartTime_; }
+    void setActivatedStartTime(long activatedStartTime) { activatedStartTime_ = activatedStartTime; }
+
+    /// Until when it is on, in the device's unit.
+    long getActivatedEndTime() const { return activatedEndTime_; }
+    void setActivatedEndTime(long activatedEndTime) { activatedEndTime_ = activatedEndTime; }
+
+private:
+    int alarmOutId_ = 0;
+    std::string alarmOutName_;
+    int alarmValidSignal_ = 0;
+    int alarmMode_ = 0;
+    float alarmOutFrequency_ = 0.0F;
+    int alarmTime_ = 0;
+    long activatedStartTime_ = 0;
+    long activatedEndTime_ = 0;
+};
+
+/// How a device's alarm inputs and outputs work.
+class AlarmIOMode
+{
+public:
+    /// The mode, as the device numbers it; the document says "AlarmIOModeType".
+    int getAlarmIOModeID() const { return alarmIOModeID_; }
+    void setAlarmIOModeID(int alarmIOModeID) { alarmIOModeID_ = alarmIOModeID; }
+
+private:
+    int alarmIOModeID_ = 0;
+};
+
+/// A type of alarm that a device knows.
+class AlarmType
+{
+public:
+    /// The number of the type.
+    int getAlarmTypeId() const { return alarmTypeId_; }
+    void setAlarmTypeId(int alarmTypeId) { alarmTypeId_ = alarmTypeId; }
+
+    /// Its name.
+    const std::string& getAlarmTypeName() const { return alarmTypeName_; }
+    void setAlarmTypeName(const std::string& alarmTypeName) { alarmTypeName_ = alarmTypeName; }
+
+private:
+    int alarmTypeId_ = 0;
+    std::string alarmTypeName_;
+};
+
+/// One alarm.
+class AlarmData
+{
+public:
+    /// What happened, as the device numbers it.
+    int getAlarmCode() const { return alarmCode_; }
+    void setAlarmCode(int alarmCode) { alarmCode_ = alarmCode; }
+
+    /// Whether the alarm begins or ends, as the device numbers it.
+    int getAlarmFlag() const { return alarmFlag_; }
+    void setAlarmFlag(int alarmFlag) { alarmFlag_ = alarmFlag; }
+
+    /// The number of its source.
+    int getAlarmSourceId() const { return alarmSourceId_; }
+    void setAlarmSourceId(int alarmSourceId) { alarmSourceId_ = alarmSourceId; }
+
+    /// The name of its source.
+    const std::string& getAlarmSourceName() const { return alarmSourceName_; }
+    void setAlarmSourceName(const std::string& alarmSourceName) { alarmSourceName_ = alarmSourceName; }
+
+    /// When it happened, in the device's unit.
+    long getAlarmTime() const { return alarmTime_; }
+    void setAlarmTime(long alarmTime) { alarmTime_ = alarmTime; }
+
+    /// The type of the alarm.
+    int getAlarmType() const { return alarmType_; }
+    void setAlarmType(int alarmType) { alarmType_ = alarmType; }
+
+    /// The type of the event behind it.
+    int getEventType() const { return eventType_; }
+    void setEventType(int eventType) { eventType_ = eventType; }
+
+private:
+    int alarmCode_ = 0;
+    int alarmFlag_ = 0;
+    int alarmSourceId_ = 0;
+    std::string alarmSourceName_;
+    long alarmTime_ = 0;
+    int alarmType_ = 0;
+    int eventType_ = 0;
+};
+
+/// An alarm, and the device that raised it.
+class AlarmInfo
+{
+public:
+    /// The identity of the device on the network.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// Its kind, as the makers number it.
+    int getDeviceType() const { return deviceType_; }
+    void setDeviceType(int deviceType) { deviceType_ = deviceType; }
+
+    /// Its address, as text.
+    const std::string& getDeviceIp() const { return deviceIp_; }
+    void setDeviceIp(const std::string& deviceIp) { deviceIp_ = deviceIp; }
+
+    /// The alarm.
+    /// @{
+    const AlarmData& getAlarmData() const { return alarmData_; }
+    AlarmData& getAlarmData() { return alarmData_; }
+    void setAlarmData(const AlarmData& alarmData) { alarmData_ = alarmData; }
+    /// @}
+
+private:
+    std::string deviceId_;
+    int deviceType_ = 0;
+    std::string deviceIp_;
+    AlarmData alarmData_;
+};
+
+/// An alarm, and the device that raised it, with types of two levels.
+class AlarmInfoEx
+{
+public:
+    /// The identity of the device on the network.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// Its address, as text.
+    const std::string& getDeviceIP() const { return deviceIP_; }
+    void setDeviceIP(const std::string& deviceIP) { deviceIP_ = deviceIP; }
+
+    /// Its kind, as the makers number it.
+    int getDeviceType() const { return deviceType_; }
+    void setDeviceType(int deviceType) { deviceType_ = deviceType; }
+
+    /// The type of the alarm.
+    int getMajorType() const { return majorType_; }
+    void setMajorType(int majorType) { majorType_ = majorType; }
+
+    /// The kind within that type.
+    int getMinorType() const { return minorType_; }
+    void setMinorType(int minorType) { minorType_ = minorType; }
+
+    /// The identity of its source.
+    const std::string& getSourceId() const { return sourceId_; }
+    void setSourceId(const std::string& sourceId) { sourceId_ = sourceId; }
+
+    /// The name of its source.
+    const std::string& getSourceName() const { return sourceName_; }
+    void setSourceName(const std::string& sourceName) { sourceName_ = sourceName; }
+
+    /// Whether the alarm begins or ends, as the device numbers it.
+    int getAlarmFlag() const { return alarmFlag_; }
+    void setAlarmFlag(int alarmFlag) { alarmFlag_ = alarmFlag; }
+
+    /// When it happened, in the device's unit.
+    unsigned long getAlarmTime() const { return alarmTime_; }
+    void setAlarmTime(unsigned long alarmTime) { alarmTime_ = alarmTime; }
+
+    /// What happened, in words.
+    const std::string& getDescription() const { return description_; }
+    void setDescription(const std::string& description) { description_ = description; }
+
+    /// When it happened, by the calendar.
+    /// @{
+    const TimeStruct& getStructAlarmTime() const { return structAlarmTime_; }
+    TimeStruct& getStructAlarmTime() { return structAlarmTime_; }
+    void setStructAlarmTime(const TimeStruct& structAlarmTime) { structAlarmTime_ = structAlarmTime; }
+    /// @}
+
+private:
+    std::string deviceId_;
+    std::string deviceIP_;
+    int deviceType_ = 0;
+    int majorType_ = 0;
+    int minorType_ = 0;
+    std::string sourceId_;
+    std::string sourceName_;
+    int alarmFlag_ = 0;
+    unsigned long alarmTime_ = 0;
+    std::string description_;
+    TimeStruct structAlarmTime_;
+};
+
+/// An alarm in the log, from its beginning to its end.
+class AlarmInfoExRecordSet
+{
+public:
+    /// The identity of the device on the network.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// Its address, as text.
+    const std::string& getDeviceIP() const { return deviceIP_; }
+    void setDeviceIP(const std::string& deviceIP) { deviceIP_ = deviceIP; }
+
+    /// Its kind, as the makers number it.
+    int getDeviceType() const { return deviceType_; }
+    void setDeviceType(int deviceType) { deviceType_ = deviceType; }
+
+    /// The type of the alarm.
+    int getMajorType() const { return majorType_; }
+    void setMajorType(int majorType) { majorType_ = majorType; }
+
+    /// The kind within that type.
+    int getMinorType() const { return minorType_; }
+    void setMinorType(int minorType) { minorType_ = minorType; }
+
+    /// The identity of its source.
+    const std::string& getSourceId() const { return sourceId_; }
+    void setSourceId(const std::string& sourceId) { sourceId_ = sourceId; }
+
+    /// The name of its source.
+    const std::string& getSourceName() const { return sourceName_; }
+    void setSourceName(const std::string& sourceName) { sourceName_ = sourceName; }
+
+    /// When it began, in the device's unit.
+    unsigned long getAlarmBeginTime() const { return alarmBeginTime_; }
+    void setAlarmBeginTime(unsigned long alarmBeginTime) { alarmBeginTime_ = alarmBeginTime; }
+
+    /// When it ended, in the device's unit.
+    unsigned long getAlarmEndTime() const { return alarmEndTime_; }
+    void setAlarmEndTime(unsigned long alarmEndTime) { alarmEndTime_ = alarmEndTime; }
+
+    /// What happened, in words.
+    const std::string& getDescription() const { return description_; }
+    void setDescription(const std::string& description) { description_ = description; }
+
+    /// When it began, by the calendar.
+    /// @{
+    const TimeStruct& getStructAlarmBeginTime() const { return structAlarmBeginTime_; }
+    TimeStruct& getStructAlarmBeginTime() { return structAlarmBeginTime_; }
+    void setStructAlarmBeginTime(const TimeStruct& structAlarmBeginTime)
+    {
+        structAlarmBeginTime_ = structAlarmBeginTime;
+    }
+    /// @}
+
+    /// When it ended, by the calendar.
+    /// @{
+    const TimeStruct& getStructAlarmEndTime() const { return structAlarmEndTime_; }
+    TimeStruct& getStructAlarmEndTime() { return structAlarmEndTime_; }
+    void setStructAlarmEndTime(const TimeStruct& structAlarmEndTime) { structAlarmEndTime_ = structAlarmEndTime; }
+    /// @}
+
+private:
+    std::string deviceId_;
+    std::string deviceIP_;
+    int deviceType_ = 0;
+    int majorType_ = 0;
+    int minorType_ = 0;
+    std::string sourceId_;
+    std::string sourceName_;
+    unsigned long alarmBeginTime_ = 0;
+    unsigned long alarmEndTime_ = 0;
+    std::string description_;
+    TimeStruct structAlarmBeginTime_;
+    TimeStruct structAlarmEndTime_;
+};
+
+/// What to look for in the log of alarms, with types of two levels.
+class AlarmInfoExQueryParam
+{
+public:
+    /// The identity of the device on the network.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// Its address, as text.
+    const std::string& getDeviceIP() const { return deviceIP_; }
+    void setDeviceIP(const std::string& deviceIP) { deviceIP_ = deviceIP; }
+
+    /// The identity of the source.
+    const std::string& getSourceId() const { return sourceId_; }
+    void setSourceId(const std::string& sourceId) { sourceId_ = sourceId; }
+
+    /// The name of the source.
+    const std::string& getSourceName() const { return sourceName_; }
+    void setSourceName(const std::string& sourceName) { sourceName_ = sourceName; }
+
+    /// From when on, in the device's unit.
+    unsigned long getAlarmBeginTime() const { return alarmBeginTime_; }
+    void setAlarmBeginTime(unsigned long alarmBeginTime) { alarmBeginTime_ = alarmBeginTime; }
+
+    /// Until when, in the device's unit.
+    unsigned long getAlarmEndTime() const { return alarmEndTime_; }
+    void setAlarmEndTime(unsigned long alarmEndTime) { alarmEndTime_ = alarmEndTime; }
+
+    /// The type of the alarms.
+    int getMajorType() const { return majorType_; }
+    void setMajorType(int majorType) { majorType_ = majorType; }
+
+    /// The kind within that type.
+    int getMinorType() const { return minorType_; }
+    void setMinorType(int minorType) { minorType_ = minorType; }
+
+    /// From when on, by the calendar.
+    /// @{
+    const TimeStruct& getStructAlarmBeginTime() const { return structAlarmBeginTime_; }
+    TimeStruct& getStructAlarmBeginTime() { return structAlarmBeginTime_; }
+    void setStructAlarmBeginTime(const TimeStruct& structAlarmBeginTime)
+    {
+        structAlarmBeginTime_ = structAlarmBeginTime;
+    }
+    /// @}
+
+    /// Until when, by the calendar.
+    /// @{
+    const TimeStruct& getStructAlarmEndTime() const { return structAlarmEndTime_; }
+    TimeStruct& getStructAlarmEndTime() { return structAlarmEndTime_; }
+    void setStructAlarmEndTime(const TimeStruct& structAlarmEndTime) { structAlarmEndTime_ = structAlarmEndTime; }
+    /// @}
+
+private:
+    std::string deviceId_;
+    std::string deviceIP_;
+    std::string sourceId_;
+    std::string sourceName_;
+    unsigned long alarmBeginTime_ = 0;
+    unsigned long alarmEndTime_ = 0;
+    int majorType_ = 0;
+    int minorType_ = 0;
+    TimeStruct structAlarmBeginTime_;
+    TimeStruct structAlarmEndTime_;
+};
+
+/// What to look for in the log of alarms.
+class AlarmLogQueryParam
+{
+public:
+    /// The identity of the device on the network.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// Its address, as text.
+    const std::string& getDeviceIp() const { return deviceIp_; }
+    void setDeviceIp(const std::string& deviceIp) { deviceIp_ = deviceIp; }
+
+    /// From when on, in the device's unit.
+    unsigned long getStartTime() const { return startTime_; }
+    void setStartTime(unsigned long startTime) { startTime_ = startTime; }
+
+    /// Until when, in the device's unit.
+    unsigned long getEndTime() const { return endTime_; }
+    void setEndTime(unsigned long endTime) { endTime_ = endTime; }
+
+    /// The type of the alarms.
+    int getAlarmType() const { return alarmType_; }
+    void setAlarmType(int alarmType) { alarmType_ = alarmType; }
+
+private:
+    std::string deviceId_;
+    std::string deviceIp_;
+    unsigned long startTime_ = 0;
+    unsigned long endTime_ = 0;
+    int alarmType_ = 0;
+};
+
+/// An alarm in the log.
+class AlarmLogRecordSet
+{
+public:
+    /// The identity of the device on the network.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// Its address, as text.
+    const std::string& getDeviceIp() const { return deviceIp_; }
+    void setDeviceIp(const std::string& deviceIp) { deviceIp_ = deviceIp; }
+
+    /// When it happened, in the device's unit.
+    unsigned long getAlarmTime() const { return alarmTime_; }
+    void setAlarmTime(unsigned long alarmTime) { alarmTime_ = alarmTime; }
+
+    /// The type of the alarm.
+    int getAlarmType() const { return alarmType_; }
+    void setAlarmType(int alarmType) { alarmType_ = alarmType; }
+
+    /// The number of its source.
+    int getAlarmSourceId() const { return alarmSourceId_; }
+    void setAlarmSourceId(int alarmSourceId) { alarmSourceId_ = alarmSourceId; }
+
+    /// The name of its source.
+    const std::string& getAlarmSourceName() const { return alarmSourceName_; }
+    void setAlarmSourceName(const std::string& alarmSourceName) { alarmSourceName_ = alarmSourceName; }
+
+private:
+    std::string deviceId_;
+    std::string deviceIp_;
+    unsigned long alarmTime_ = 0;
+    int alarmType_ = 0;
+    int alarmSourceId_ = 0;
+    std::string alarmSourceName_;
+};
+
+/// Where a device reports its alarms.
+class AlarmServiceParam
+{
+public:
+    /// Whether alarms go to a centre.
+    bool getAlarmCenterEnableFlag() const { return alarmCenterEnableFlag_; }
+    void setAlarmCenterEnableFlag(bool alarmCenterEnableFlag) { alarmCenterEnableFlag_ = alarmCenterEnableFlag; }
+
+    /// The centre's address, as text.
+    const std::string& getAlarmCenterServerIP() const { return alarmCenterServerIP_; }
+    void setAlarmCenterServerIP(const std::string& alarmCenterServerIP) { alarmCenterServerIP_ = alarmCenterServerIP; }
+
+    /// The centre's port.
+    std::uint16_t getAlarmCenterServerPort() const { return alarmCenterServerPort_; }
+    void setAlarmCenterServerPort(std::uint16_t alarmCenterServerPort)
+    {
+        alarmCenterServerPort_ = alarmCenterServerPort;
+    }
+
+    /// Whether alarms go out by mail.
+    bool getAlarmEmailEnableFlag() const { return alarmEmailEnableFlag_; }
+    void setAlarmEmailEnableFlag(bool alarmEmailEnableFlag) { alarmEmailEnableFlag_ = alarmEmailEnableFlag; }
+
+    /// The address that they are mailed to.
+    const std::string& getAlarmEmailAddress() const { return alarmEmailAddress_; }
+    void setAlarmEmailAddress(const std::string& alarmEmailAddress) { alarmEmailAddress_ = alarmEmailAddress; }
+
+    /// Version of the Internet protocol, as the device numbers it.
+    int getIPProtoVer() const { return ipProtoVer_; }
+    void setIPProtoVer(int ipProtoVer) { ipProtoVer_ = ipProtoVer; }
+
+private:
+    bool alarmCenterEnableFlag_ = false;
+    std::string alarmCenterServerIP_;
+    std::uint16_t alarmCenterServerPort_ = 0;
+    bool alarmEmailEnableFlag_ = false;
+    std::string alarmEmailAddress_;
+    int ipProtoVer_ = 0;
+};

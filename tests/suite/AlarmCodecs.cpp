@@ -1,14 +1,30 @@
 #include "tests/suite/Codecs.h"
 
 #include "alarm/AlarmActionXml.h"
+#include "alarm/AlarmDataXml.h"
 #include "alarm/AlarmEventXml.h"
 #include "alarm/AlarmIOEventXml.h"
+#include "alarm/AlarmIOModeXml.h"
+#include "alarm/AlarmInDeviceInfoXml.h"
+#include "alarm/AlarmInDeviceXml.h"
+#include "alarm/AlarmInfoExQueryParamListXml.h"
+#include "alarm/AlarmInfoExQueryParamXml.h"
+#include "alarm/AlarmInfoExRecordSetXml.h"
+#include "alarm/AlarmInfoExXml.h"
+#include "alarm/AlarmInfoXml.h"
+#include "alarm/AlarmLogQueryParamXml.h"
+#include "alarm/AlarmLogRecordSetXml.h"
 #include "alarm/AlarmOutActionXml.h"
+#include "alarm/AlarmOutDeviceInfoXml.h"
+#include "alarm/AlarmOutDeviceXml.h"
 #include "alarm/AlarmOverlayActionXml.h"
 #include "alarm/AlarmPTZActionExXml.h"
 #include "alarm/AlarmPTZActionXml.h"
 #include "alarm/AlarmParamXml.h"
 #include "alarm/AlarmRecordActionXml.h"
+#include "alarm/AlarmResponseXml.h"
+#include "alarm/AlarmServiceParamXml.h"
+#include "alarm/AlarmTypeXml.h"
 #include "alarm/CameraMaskEventXml.h"
 #include "alarm/DetectionAreaXml.h"
 #include "alarm/DetectionAreaXmlV2.h"
@@ -37,12 +53,31 @@ std::vector<CodecCase> alarmCodecs()
     return {
         // clang-format off
         {"alarm", "AlarmActionXml", "document", rewriteDocument<AlarmActionXml>},
+        {"alarm", "AlarmDataXml", "document", rewriteDocument<AlarmDataXml>},
+        {"alarm", "AlarmDataXml", "node", rewriteText<AlarmDataXml, AlarmData>},
         {"alarm", "AlarmEventXml", "list", rewriteText<AlarmEventXml, std::vector<AlarmEvent>>},
         {"alarm", "AlarmIOEventXml", "document", rewriteDocument<AlarmIOEventXml>},
         {"alarm", "AlarmIOEventXml", "node", rewriteText<AlarmIOEventXml, AlarmIOEvent>},
         {"alarm", "AlarmIOEventXml", "list", rewriteText<AlarmIOEventXml, std::vector<AlarmIOEvent>>},
+        {"alarm", "AlarmIOModeXml", "document", rewriteDocument<AlarmIOModeXml>, ""},
+        {"alarm", "AlarmIOModeXml", "node", rewriteText<AlarmIOModeXml, AlarmIOMode>},
+        {"alarm", "AlarmInDeviceInfoXml", "document", rewriteDocument<AlarmInDeviceInfoXml>},
+        {"alarm", "AlarmInDeviceXml", "document", rewriteDocument<AlarmInDeviceXml>},
+        {"alarm", "AlarmInDeviceXml", "node", rewriteText<AlarmInDeviceXml, AlarmInDevice>},
+        {"alarm", "AlarmInfoExQueryParamListXml", "document", rewriteDocument<AlarmInfoExQueryParamListXml>},
+        {"alarm", "AlarmInfoExQueryParamXml", "document", rewriteDocument<AlarmInfoExQueryParamXml>},
+        {"alarm", "AlarmInfoExRecordSetXml", "document", rewriteDocument<AlarmInfoExRecordSetXml>},
+        {"alarm", "AlarmInfoExXml", "document", rewriteDocument<AlarmInfoExXml>},
+        {"alarm", "AlarmInfoXml", "document", rewriteDocument<AlarmInfoXml>},
+        {"alarm", "AlarmInfoXml", "node", rewriteText<AlarmInfoXml, AlarmInfo>},
+        {"alarm", "AlarmLogQueryParamXml", "document", rewriteDocument<AlarmLogQueryParamXml>},
+        {"alarm", "AlarmLogRecordSetXml", "document", rewriteDocument<AlarmLogRecordSetXml>},
         {"alarm", "AlarmOutActionXml", "document", rewriteDocument<AlarmOutActionXml>},
         {"alarm", "AlarmOutActionXml", "node", rewriteText<AlarmOutActionXml, AlarmOutAction>},
+        {"alarm", "AlarmOutDeviceInfoXml", "document", rewriteDocument<AlarmOutDeviceInfoXml>},
+        {"alarm", "AlarmOutDeviceXml", "document", rewriteDocument<AlarmOutDeviceXml>},
+        {"alarm", "AlarmOutDeviceXml", "node", rewriteText<AlarmOutDeviceXml, AlarmOutDevice>},
+        {"alarm", "AlarmOutDeviceXml", "list", rewriteText<AlarmOutDeviceXml, std::vector<AlarmOutDevice>>},
         {"alarm", "AlarmOverlayActionXml", "document", rewriteDocument<AlarmOverlayActionXml>},
         {"alarm", "AlarmOverlayActionXml", "node", rewriteText<AlarmOverlayActionXml, AlarmOverlayAction>},
         {"alarm", "AlarmPTZActionExXml", "document", rewriteDocument<AlarmPTZActionExXml>},
@@ -52,6 +87,12 @@ std::vector<CodecCase> alarmCodecs()
         {"alarm", "AlarmParamXml", "node", rewriteText<AlarmParamXml, AlarmParam>},
         {"alarm", "AlarmRecordActionXml", "document", rewriteDocument<AlarmRecordActionXml>},
         {"alarm", "AlarmRecordActionXml", "node", rewriteText<AlarmRecordActionXml, AlarmRecordAction>},
+        {"alarm", "AlarmResponseXml", "document", rewriteDocument<AlarmResponseXml>},
+        {"alarm", "AlarmServiceParamXml", "document", rewriteDocument<AlarmServiceParamXml>},
+        {"alarm", "AlarmServiceParamXml", "node", rewriteText<AlarmServiceParamXml, AlarmServiceParam>},
+        {"alarm", "AlarmTypeXml", "document", rewriteDocument<AlarmTypeXml>},
+        {"alarm", "AlarmTypeXml", "node", rewriteText<AlarmTypeXml, AlarmType>},
+        {"alarm", "AlarmTypeXml", "list", rewriteText<AlarmTypeXml, std::vector<AlarmType>>},
         {"alarm", "CameraMaskEventXml", "document", rewriteDocument<CameraMaskEventXml>},
         {"alarm", "DetectionAreaXml", "document", rewriteDocument<DetectionAreaXml>},
         {"alarm", "DetectionAreaXml", "list", rewriteText<DetectionAreaXml, std::vector<DetectionArea>>},
