@@ -127,8 +127,8 @@ public:
     void setAlarmOutNum(int alarmOutNum) { alarmOutNum_ = alarmOutNum; }
 
     /// Number of RS-485 ports.
-    int getRS485Num() const { return rS485Num_; }
-    void setRS485Num(int rS485Num) { rS485Num_ = rS485Num; }
+    int getRS485Num() const { return rs485Num_; }
+    void setRS485Num(int rs485Num) { rs485Num_ = rs485Num; }
 
     /// State bits, as the device defines them.
     std::uint64_t getState() const { return state_; }
@@ -172,7 +172,7 @@ private:
     int cameraNum_ = 0;
     int alarmInNum_ = 0;
     int alarmOutNum_ = 0;
-    int rS485Num_ = 0;
+    int rs485Num_ = 0;
     std::uint64_t state_ = 0;
     Version version_;
     std::vector<CameraDevice> cameraDeviceList_;
@@ -539,8 +539,8 @@ public:
     void setRTSPPort(std::uint16_t rtspPort) { rtspPort_ = rtspPort; }
 
     /// Port of pictures and sound over TCP.
-    std::uint16_t getTCPAVPort() const { return tcpavPort_; }
-    void setTCPAVPort(std::uint16_t tcpavPort) { tcpavPort_ = tcpavPort; }
+    std::uint16_t getTCPAVPort() const { return tcpAVPort_; }
+    void setTCPAVPort(std::uint16_t tcpAVPort) { tcpAVPort_ = tcpAVPort; }
 
     /// Port of the registration with a centre.
     std::uint16_t getRegisterPort() const { return registerPort_; }
@@ -569,7 +569,7 @@ private:
     std::uint16_t rtcpPort_ = 0;
     std::uint16_t rtpPort_ = 0;
     std::uint16_t rtspPort_ = 0;
-    std::uint16_t tcpavPort_ = 0;
+    std::uint16_t tcpAVPort_ = 0;
     std::uint16_t registerPort_ = 0;
     std::uint16_t reservePort1_ = 0;
     std::uint16_t reservePort2_ = 0;

@@ -92,6 +92,19 @@ TEST(DeviceWorkStateXml, ReplacesAChildByTheOneThatIsThere)
     EXPECT_EQ(9, codec.getDeviceWorkState().getCpuStatistic().getCpuStatus());
 }
 
+TEST(DeviceWorkStateXml, AddsItemsBehindThoseOfEveryList)
+{
+    DeviceWorkStateXml codec;
+    codec.setDeviceWorkState(sample());
+    ASSERT_TRUE(reads(codec, golden("device/DeviceWorkStateXml.document.xml")));
+    DeviceWorkState expected = sample();
+    expected.setDiskStatisticList({sampleDisk(), DiskStatistic(), sampleDisk(), DiskStatistic()});
+    expected.setVideoChannelStatisticList({sampleChannel(), sampleChannel()});
+    expected.setAlarmInStatisticList({sampleInput(), sampleInput()});
+    expected.setAlarmOutStatisticList({sampleOutput(), sampleOutput()});
+    expectState(expected, codec.getDeviceWorkState());
+}
+
 TEST(DeviceWorkStateXml, AddsItemsOfAnyNameBehindThoseThatAreThere)
 {
     DeviceWorkStateXml codec;

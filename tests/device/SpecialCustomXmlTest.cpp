@@ -61,6 +61,35 @@ TEST(SpecialCustomXml, RefusesAnEmptyPointer)
     expectCustom(sample(), read);
 }
 
+TEST(SpecialCustomXml, CarriesEachFlagOnItsOwn)
+{
+    const struct
+    {
+        const char* name;
+        void (SpecialCustom::*set)(bool);
+    } flags[] = {
+        {"DispalyInfoShowFlag", &SpecialCustom::setDispalyInfoShowFlag},
+        {"StreamNameShowFlag", &SpecialCustom::setStreamNameShowFlag},
+        {"EncodeTypeShowFlag", &SpecialCustom::setEncodeTypeShowFlag},
+        {"ResolutionNameShowFlag", &SpecialCustom::setResolutionNameShowFlag},
+        {"FrameRateShowFlag", &SpecialCustom::setFrameRateShowFlag},
+        {"BitRateShowFlag", &SpecialCustom::setBitRateShowFlag},
+    };
+    for (const auto& flag : flags)
+    {
+        SCOPED_TRACE(flag.name);
+        SpecialCustom custom;
+        (custom.*flag.set)(true);
+        std::string text;
+        ASSERT_TRUE(SpecialCustomXml().createXmlString(custom, text));
+        EXPECT_NE(std::string::npos, text.find(std::string(flag.name) + "=\"true\""));
+        EXPECT_EQ(text.find("true"), text.rfind("true"));
+        SpecialCustom read;
+        ASSERT_TRUE(SpecialCustomXml().parseXmlString(text, read));
+        expectCustom(custom, read);
+    }
+}
+
 TEST(SpecialCustomXml, PassesOverTheOtherSpelling)
 {
     SpecialCustom read;

@@ -54,3 +54,16 @@ TEST(SystemServiceInfoXml, RefusesAnEmptyPointer)
     EXPECT_FALSE(SystemServiceInfoXml().parseDomainXmlNode(empty, read));
     expectInfo(sample(), read);
 }
+
+TEST(SystemServiceInfoXml, CarriesEachFlagOnItsOwn)
+{
+    SystemServiceInfo info;
+    info.setTelnetEnableFlag(true);
+    std::string text;
+    ASSERT_TRUE(SystemServiceInfoXml().createXmlString(info, text));
+    EXPECT_EQ("<SystemServiceInfoList FTPEnableFlag=\"false\" TelnetEnableFlag=\"true\" WebLanguageID=\"0\" />\n",
+              text);
+    SystemServiceInfo read;
+    ASSERT_TRUE(SystemServiceInfoXml().parseXmlString(text, read));
+    expectInfo(info, read);
+}
