@@ -4,6 +4,7 @@
 
 #include "commands/RecordStreamResponseXml.h"
 
+#include "commands/AddressElement.h"
 #include "core/Frame.h"
 
 RecordStreamResponseXml::RecordStreamResponseXml() = default;
@@ -16,10 +17,7 @@ void RecordStreamResponseXml::createXmlNode()
     frame::setInt(element, "ManagerId", managerId_);
     frame::setInt(element, "ConsumerId", consumerId_);
 
-    TiXmlElement& address = frame::appendElement(element, "StreamAddr");
-    frame::setText(address, "IP", streamAddr_.getIP());
-    frame::setInt(address, "Port", streamAddr_.getPORT());
-    frame::setInt(address, "IPProtoVar", streamAddr_.getIPProtoVer()); // the peers' spelling
+    frame::writeAddress(element, "StreamAddr", streamAddr_);
 }
 
 bool RecordStreamResponseXml::createXmlString()
@@ -42,12 +40,6 @@ bool RecordStreamResponseXml::parseXmlNode()
     managerId_ = frame::intOf(*element, "ManagerId", managerId_);
     consumerId_ = frame::intOf(*element, "ConsumerId", consumerId_);
 
-    const TiXmlElement* address = element->FirstChildElement("StreamAddr");
-    if (address != nullptr)
-    {
-        streamAddr_.setIP(frame::textOf(*address, "IP", streamAddr_.getIP()).c_str());
-        streamAddr_.setPORT(frame::uint16Of(*address, "Port", streamAddr_.getPORT()));
-        streamAddr_.setIPProtoVer(frame::intOf(*address, "IPProtoVar", streamAddr_.getIPProtoVer()));
-    }
+    frame::readAddress(*element, "StreamAddr", streamAddr_);
     return true;
 }

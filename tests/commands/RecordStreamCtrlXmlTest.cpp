@@ -106,6 +106,11 @@ TEST(RecordStreamCtrlXml, ReadsTheParametersThroughADouble)
     EXPECT_EQ(0, parameterOf("nan"));
     EXPECT_EQ(std::numeric_limits<long long>::max(), parameterOf("1e300"));
     EXPECT_EQ(std::numeric_limits<long long>::min(), parameterOf("-inf"));
+
+    RecordStreamCtrlXml codec;
+    ASSERT_TRUE(reads(codec, "<RecordStreamCtrlCommand Paramer1='4294967297' Paramer2='1.5e3' />"));
+    EXPECT_EQ(4294967297, codec.getParamer1());
+    EXPECT_EQ(1500, codec.getParamer2());
 }
 
 TEST(RecordStreamCtrlXml, ReplacesTheFailedReceiversByAListThatIsThere)
