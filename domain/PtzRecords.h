@@ -560,7 +560,7 @@ private:
 class PTSpeedTable
 {
 public:
-    /// What the speeds depend on, as the device numbers it.
+    /// Kind of the speeds, as the device numbers it.
     int getSpeedType() const { return speedType_; }
     void setSpeedType(int speedType) { speedType_ = speedType; }
 
@@ -783,9 +783,9 @@ public:
 
     /// Its texts over the picture.
     /// @{
-    const std::vector<PTZOSDParam>& getPTZOSDParamList() const { return ptzosdParamList_; }
-    std::vector<PTZOSDParam>& getPTZOSDParamList() { return ptzosdParamList_; }
-    void setPTZOSDParamList(const std::vector<PTZOSDParam>& ptzosdParamList) { ptzosdParamList_ = ptzosdParamList; }
+    const std::vector<PTZOSDParam>& getPTZOSDParamList() const { return ptzOSDParamList_; }
+    std::vector<PTZOSDParam>& getPTZOSDParamList() { return ptzOSDParamList_; }
+    void setPTZOSDParamList(const std::vector<PTZOSDParam>& ptzOSDParamList) { ptzOSDParamList_ = ptzOSDParamList; }
     /// @}
 
     /// Its speeds by magnification and stage.
@@ -889,7 +889,7 @@ public:
 
 private:
     MaxOpticalMagnificationParamV2 maxOpticalMagnificationParam_;
-    std::vector<PTZOSDParam> ptzosdParamList_;
+    std::vector<PTZOSDParam> ptzOSDParamList_;
     PTSpeedTable ptSpeedTable_;
     PTZSpeedParamV2 ptzSpeedParam_;
     ThreeDimensionalPositionAbilityParam threeDimensionalPositionAbilityParam_;

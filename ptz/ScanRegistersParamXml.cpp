@@ -17,8 +17,14 @@
 namespace
 {
 
-// Printed for either child: whoever searches a log for it has to look which of the two the text lacks.
-constexpr const char* missingChild = "ScanRegistersParamXml::parseDomainXmlNode node = NODE_CAMERA_ID_LIST failed ";
+bool findChild(const SafePointer<DomainXmlNode>& node, const char* name, SafePointer<DomainXmlNode>& child)
+{
+    if (node->getConfigNode(name, child)) return true;
+
+    // The same words for the port: what the peers log does not tell which of the two children is missing.
+    std::puts("ScanRegistersParamXml::parseDomainXmlNode node = NODE_CAMERA_ID_LIST failed ");
+    return false;
+}
 
 // All but the port, which nodes and texts hold in ways of their own.
 
@@ -42,11 +48,8 @@ void readFields(const SafePointer<DomainXmlNode>& node, ScanRegistersParam& para
     param.setDisplayNum(frame::intProperty(node, "OSDDisplayNum", param.getDisplayNum()));
 
     SafePointer<DomainXmlNode> cameras;
-    if (!node->getConfigNode("CameraIdList", cameras))
-    {
-        std::puts(missingChild);
-        return;
-    }
+    if (!findChild(node, "CameraIdList", cameras)) return;
+
     const TiXmlElement* item = frame::firstChild(cameras);
     for (; item != nullptr; item = item->NextSiblingElement())
         param.getOSDCameraList().push_back(frame::intOf(*item, "CameraId", 0));
@@ -73,11 +76,8 @@ bool ScanRegistersParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>&
 
     readFields(node, param);
     SafePointer<DomainXmlNode> child;
-    if (!node->getConfigNode("ExternInterface", child))
-    {
-        std::puts(missingChild);
-        return true;
-    }
+    if (!findChild(node, "ExternInterface", child)) return true;
+
     ExternInterface interface;
     ExternInterfaceXml().parseDomainXmlNode(child, interface);
     param.setExternInterface(interface);
@@ -99,11 +99,8 @@ bool ScanRegistersParamXml::parseScanRegistersParamXml(const std::string& text, 
 
     readFields(node, param);
     SafePointer<DomainXmlNode> child;
-    if (!node->getConfigNode("ExternInterface", child))
-    {
-        std::puts(missingChild);
-        return true;
-    }
+    if (!findChild(node, "ExternInterface", child)) return true;
+
     ExternInterface interface;
     if (ExternInterfaceXml::readElement(*child->getXmlNode(), interface)) param.setExternInterface(interface);
     return true;

@@ -250,6 +250,23 @@ TEST(PTZAbilityParamXml, ReadsInPlaceOfWhatTheRecordHolds)
     expectAbility(PTZAbilityParam(), read);
 }
 
+TEST(PTZAbilityParamXml, CarriesEachAbilityOnItsOwn)
+{
+    for (const char* block : {"PTZSpeedConfig", "ThreeDimensionalPosition", "TraceAbilityParam", "TourAbilityParam",
+                              "ScanAbilityParam", "PresetPosAbilityParam", "GuardPosAbilityParam",
+                              "InfraredLampAbilityParam", "DueNorthAbilityParam", "TimerAbilityParam"})
+    {
+        SCOPED_TRACE(block);
+        const std::string opening = std::string("<") + block + " enable=";
+        const std::string disabled = goldenWithout(opening + "\"true\"", opening + "\"false\"");
+        PTZAbilityParam read;
+        ASSERT_TRUE(PTZAbilityParamXml().parseXmlString(disabled, read));
+        std::string text;
+        ASSERT_TRUE(PTZAbilityParamXml().createXmlString(read, text));
+        EXPECT_EQ(disabled, text);
+    }
+}
+
 TEST(PTZAbilityParamXml, StopsAtTheFirstMissingBlock)
 {
     for (std::size_t number = 0; number < std::size(blocks); ++number)
