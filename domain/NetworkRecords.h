@@ -890,7 +890,7 @@ private:
     std::uint32_t endTime_ = 0;
 };
 
-/// The time zone of a device, and when it keeps daylight saving time, as the document of that name carries it.
+/// The time zone of a device, and when it keeps daylight saving time, as the "TimeZoneParam" document carries it.
 class TimeZoneExParam
 {
 public:

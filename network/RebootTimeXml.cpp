@@ -33,10 +33,7 @@ bool RebootTimeXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, s
     for (; item != nullptr; item = item->NextSiblingElement())
     {
         RebootTime time;
-        time.setMonth(frame::intOf(*item, "Month", 0));
-        time.setDay(frame::intOf(*item, "Day", 0));
-        time.setWeekday(frame::intOf(*item, "Weekday", 0));
-        time.setSecond(frame::intOf(*item, "Second", 0));
+        if (!readElement(*item, time)) return false;
         times.push_back(time);
     }
     return true;
@@ -52,4 +49,13 @@ bool RebootTimeXml::parseXmlString(const std::string& text, std::vector<RebootTi
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "RebootTimeList", node) && parseDomainXmlNode(node, times);
+}
+
+bool RebootTimeXml::readElement(const TiXmlElement& element, RebootTime& time)
+{
+    time.setMonth(frame::intOf(element, "Month", 0));
+    time.setDay(frame::intOf(element, "Day", 0));
+    time.setWeekday(frame::intOf(element, "Weekday", 0));
+    time.setSecond(frame::intOf(element, "Second", 0));
+    return true;
 }

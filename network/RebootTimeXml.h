@@ -5,6 +5,7 @@
 #include "domain/NetworkRecords.h"
 
 #include <string>
+#include <tinyxml.h>
 #include <vector>
 
 /// The times at which a device restarts: the "RebootTimeList" document.
@@ -24,4 +25,7 @@ public:
     bool createXmlString(const std::vector<RebootTime>& times, std::string& text) const;
     bool parseXmlString(const std::string& text, std::vector<RebootTime>& times) const;
     /// @}
+
+    /// Reads one time.
+    static bool readElement(const TiXmlElement& element, RebootTime& time);
 };

@@ -32,10 +32,7 @@ bool TimeRebootXml::parseXmlString(const std::string& text, TimeRebootParam& par
     for (; item != nullptr; item = item->NextSiblingElement("RebootTime"))
     {
         RebootTime time;
-        time.setMonth(frame::intOf(*item, "Month", 0));
-        time.setDay(frame::intOf(*item, "Day", 0));
-        time.setWeekday(frame::intOf(*item, "Weekday", 0));
-        time.setSecond(frame::intOf(*item, "Second", 0));
+        if (!RebootTimeXml::readElement(*item, time)) return false;
         times.push_back(time);
     }
     param.setRebootTimeList(times);

@@ -43,9 +43,10 @@ void expectParam(const IPFilterParam& expected, const IPFilterParam& param)
 
 constexpr char segments[] = "<IPAddrSegmentList>text<Other IPProtoVer='1' BeginIP='a' EndIP='b' /><!--IPAddrSegment-->"
                             "<IPAddrSegment IPProtoVer='2' BeginIP='c' EndIP='d' />"
-                            "<IPAddrSegment BeginIP='e' EndIP='f' /><IPAddrSegment IPProtoVer='3' EndIP='g' />"
-                            "<IPAddrSegment IPProtoVer='4' BeginIP='h' /><IPAddrSegment IPProtoVer='' BeginIP='' "
-                            "EndIP='' /></IPAddrSegmentList>";
+                            "<IPAddrSegment BeginIP='e' EndIP='f' />"
+                            "<IPAddrSegment IPProtoVer='3' EndIP='g' />"
+                            "<IPAddrSegment IPProtoVer='4' BeginIP='h' />"
+                            "<IPAddrSegment IPProtoVer='' BeginIP='' EndIP='' /></IPAddrSegmentList>";
 
 } // namespace
 

@@ -50,8 +50,8 @@ TEST(SMTPParamXml, ReplacesTheRecipientsByThoseOfTheirName)
     CapturedOutput output;
     SMTPParam read = sampleMail();
     ASSERT_TRUE(SMTPParamXml().parseXmlString(
-        "<SMTPParam><RecipientEmailAddressList>text<Other /><!-- --><RecipientEmailAddress RecipientEmailAddress='new' "
-        "/><Other RecipientEmailAddress='no' />"
+        "<SMTPParam><RecipientEmailAddressList>text<Other /><!-- -->"
+        "<RecipientEmailAddress RecipientEmailAddress='new' /><Other RecipientEmailAddress='no' />"
         "<RecipientEmailAddress RecipientEmailAddress='' /></RecipientEmailAddressList></SMTPParam>",
         read));
     SMTPParam expected;
@@ -64,10 +64,11 @@ TEST(SMTPParamXml, RefusesARecipientWithoutAnAddress)
 {
     CapturedOutput output;
     SMTPParam read = sampleMail();
-    ASSERT_FALSE(SMTPParamXml().parseXmlString(
-        "<SMTPParam TransportMode='9'><RecipientEmailAddressList><RecipientEmailAddress RecipientEmailAddress='new' "
-        "/><RecipientEmailAddress /></RecipientEmailAddressList></SMTPParam>",
-        read));
+    ASSERT_FALSE(
+        SMTPParamXml().parseXmlString("<SMTPParam TransportMode='9'><RecipientEmailAddressList>"
+                                      "<RecipientEmailAddress RecipientEmailAddress='new' /><RecipientEmailAddress />"
+                                      "</RecipientEmailAddressList></SMTPParam>",
+                                      read));
     SMTPParam expected;
     std::vector<std::string> recipients = sampleMail().getRecipientEmailAddressList();
     expected.setRecipientEmailAddressList(recipients);
@@ -105,11 +106,11 @@ TEST(SMTPParamXml, ReadsItemsOfAnyNameUpToTheFirstThatFails)
 {
     CapturedOutput output;
     std::vector<SMTPParam> list;
-    EXPECT_FALSE(
-        SMTPParamXml().parseXmlString("<SMTPParamList>text<!-- --><Other TransportMode='9' "
-                                      "/><SMTPParam><RecipientEmailAddressList><RecipientEmailAddress "
-                                      "/></RecipientEmailAddressList></SMTPParam><SMTPParam /></SMTPParamList>",
-                                      list));
+    EXPECT_FALSE(SMTPParamXml().parseXmlString(
+        "<SMTPParamList>text<!-- --><Other TransportMode='9' />"
+        "<SMTPParam><RecipientEmailAddressList><RecipientEmailAddress /></RecipientEmailAddressList></SMTPParam>"
+        "<SMTPParam /></SMTPParamList>",
+        list));
     ASSERT_EQ(1U, list.size());
     SMTPParam expected;
     expected.setTransportMode(9);

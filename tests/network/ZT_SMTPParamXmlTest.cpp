@@ -50,8 +50,8 @@ TEST(ZT_SMTPParamXml, ReplacesTheRecipientsByThoseOfTheirName)
     CapturedOutput output;
     SMTPParam read = sampleMail();
     ASSERT_TRUE(ZT_SMTPParamXml().parseXmlString(
-        "<ZT_SMTPParam><ZT_RecipientEmailAddressList>text<Other /><!-- --><ZT_RecipientEmailAddress "
-        "ZT_RecipientEmailAddress='new' /><Other ZT_RecipientEmailAddress='no' />"
+        "<ZT_SMTPParam><ZT_RecipientEmailAddressList>text<Other /><!-- -->"
+        "<ZT_RecipientEmailAddress ZT_RecipientEmailAddress='new' /><Other ZT_RecipientEmailAddress='no' />"
         "<ZT_RecipientEmailAddress ZT_RecipientEmailAddress='' /></ZT_RecipientEmailAddressList></ZT_SMTPParam>",
         read));
     SMTPParam expected;
@@ -65,8 +65,9 @@ TEST(ZT_SMTPParamXml, RefusesARecipientWithoutAnAddress)
     CapturedOutput output;
     SMTPParam read = sampleMail();
     ASSERT_FALSE(ZT_SMTPParamXml().parseXmlString(
-        "<ZT_SMTPParam ZT_TransportMode='9'><ZT_RecipientEmailAddressList><ZT_RecipientEmailAddress "
-        "ZT_RecipientEmailAddress='new' /><ZT_RecipientEmailAddress /></ZT_RecipientEmailAddressList></ZT_SMTPParam>",
+        "<ZT_SMTPParam ZT_TransportMode='9'><ZT_RecipientEmailAddressList>"
+        "<ZT_RecipientEmailAddress ZT_RecipientEmailAddress='new' /><ZT_RecipientEmailAddress />"
+        "</ZT_RecipientEmailAddressList></ZT_SMTPParam>",
         read));
     SMTPParam expected;
     std::vector<std::string> recipients = sampleMail().getRecipientEmailAddressList();
@@ -105,11 +106,12 @@ TEST(ZT_SMTPParamXml, ReadsItemsOfAnyNameUpToTheFirstThatFails)
 {
     CapturedOutput output;
     std::vector<SMTPParam> list;
-    EXPECT_FALSE(ZT_SMTPParamXml().parseXmlString(
-        "<ZT_SMTPParamList>text<!-- --><Other ZT_TransportMode='9' "
-        "/><ZT_SMTPParam><ZT_RecipientEmailAddressList><ZT_RecipientEmailAddress "
-        "/></ZT_RecipientEmailAddressList></ZT_SMTPParam><ZT_SMTPParam /></ZT_SMTPParamList>",
-        list));
+    EXPECT_FALSE(ZT_SMTPParamXml().parseXmlString("<ZT_SMTPParamList>text<!-- --><Other ZT_TransportMode='9' />"
+                                                  "<ZT_SMTPParam><ZT_RecipientEmailAddressList>"
+                                                  "<ZT_RecipientEmailAddress />"
+                                                  "</ZT_RecipientEmailAddressList></ZT_SMTPParam>"
+                                                  "<ZT_SMTPParam /></ZT_SMTPParamList>",
+                                                  list));
     ASSERT_EQ(1U, list.size());
     SMTPParam expected;
     expected.setTransportMode(9);

@@ -61,7 +61,8 @@ TEST(RecordFileExXml, ReadsBehindWhatTheListHolds)
 TEST(RecordFileExXml, GivesFreshValuesForWhatIsMissing)
 {
     RecordFileExXml codec;
-    ASSERT_TRUE(reads(codec, "<RecordFileList><RecordFile /><Other CameraId='x' /></RecordFileList>"));
+    ASSERT_TRUE(reads(codec, "<RecordFileList><!--RecordFile--><Other CameraId='1' /><RecordFile /><!-- -->text"
+                             "<Other CameraId='x' /></RecordFileList>"));
     ASSERT_EQ(2U, codec.getRecordFileList().size());
     expectFile(RecordFileEx(), codec.getRecordFileList()[0]);
     expectFile(RecordFileEx(), codec.getRecordFileList()[1]);

@@ -106,7 +106,9 @@ TEST(SnapshotQueryConditionXml, ReadsTimesThroughADouble)
     ASSERT_TRUE(reads(codec, "<SnapshotQueryCondition BeginTime='9007199254740993' EndTime='-1e300' />"));
     EXPECT_EQ(9007199254740992, codec.getSnapshotQueryCondition().getQueryBeginTime());
     EXPECT_EQ(std::numeric_limits<long long>::min(), codec.getSnapshotQueryCondition().getQueryEndTime());
-    written(codec);
+
+    // No calendar reaches that far back; it is written all the same.
+    EXPECT_NE(std::string::npos, written(codec).find(" EndTime=\"-9223372036854775808\""));
 }
 
 TEST(SnapshotQueryConditionXml, ConvertsNumbers)

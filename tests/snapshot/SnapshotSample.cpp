@@ -2,56 +2,6 @@
 
 #include <gtest/gtest.h>
 
-TimeStruct sampleTime()
-{
-    TimeStruct time;
-    time.setTimeZone(-8);
-    time.setDaylightSavingTime(1);
-    time.setYear(2015);
-    time.setMonth(3);
-    time.setDay(2);
-    time.setDayOfWeek(6);
-    time.setHour(23);
-    time.setMinute(59);
-    time.setSecond(58);
-    time.setMilliseconds(999);
-    return time;
-}
-
-void expectTime(const TimeStruct& expected, const TimeStruct& time)
-{
-    EXPECT_EQ(expected.getTimeZone(), time.getTimeZone());
-    EXPECT_EQ(expected.getDaylightSavingTime(), time.getDaylightSavingTime());
-    EXPECT_EQ(expected.getYear(), time.getYear());
-    EXPECT_EQ(expected.getMonth(), time.getMonth());
-    EXPECT_EQ(expected.getDay(), time.getDay());
-    EXPECT_EQ(expected.getDayOfWeek(), time.getDayOfWeek());
-    EXPECT_EQ(expected.getHour(), time.getHour());
-    EXPECT_EQ(expected.getMinute(), time.getMinute());
-    EXPECT_EQ(expected.getSecond(), time.getSecond());
-    EXPECT_EQ(expected.getMilliseconds(), time.getMilliseconds());
-}
-
-AlarmExType alarmType(const std::string& name, int major, int minor)
-{
-    AlarmExType type;
-    type.setAlarmExTypeName(name);
-    type.setMajorType(major);
-    type.setMinorType(minor);
-    return type;
-}
-
-void expectAlarmTypes(const std::vector<AlarmExType>& expected, const std::vector<AlarmExType>& types)
-{
-    ASSERT_EQ(expected.size(), types.size());
-    for (std::size_t number = 0; number < types.size(); ++number)
-    {
-        EXPECT_EQ(expected[number].getAlarmExTypeName(), types[number].getAlarmExTypeName());
-        EXPECT_EQ(expected[number].getMajorType(), types[number].getMajorType());
-        EXPECT_EQ(expected[number].getMinorType(), types[number].getMinorType());
-    }
-}
-
 SnapshotFile samplePicture()
 {
     SnapshotFile file;
@@ -62,7 +12,7 @@ SnapshotFile samplePicture()
     file.setSnapshotPolicyType(2);
     file.setLockFlag(true);
     file.setSnapshotFileLength(51200);
-    file.setStructSnapshotFileTime(sampleTime());
+    file.setStructSnapshotFileTime(sampleTime(2015));
     file.setAlarmExTypeList({alarmType("Motion", 1, 2), alarmType("Line", 3, 4)});
     file.setSnapshotFileName("d1_10.0.0.9_3_20150302080907045_2.jpg");
     return file;
@@ -101,7 +51,7 @@ SnapshotFileEx sampleStretch()
     file.setSnapshotFileBeginTime(1425283747045);
     file.setSnapshotFileEndTime(1425287347046);
     file.setSnapshotCount(12);
-    file.setStructSnapshotFileTime(sampleTime());
+    file.setStructSnapshotFileTime(sampleTime(2015));
     file.setSnapshotAlarmExType(alarmType("", 1, 2));
     return file;
 }

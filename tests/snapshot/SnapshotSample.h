@@ -1,15 +1,7 @@
 #pragma once
 
 #include "domain/SnapshotRecords.h"
-
-/// A time with a distinct value in every field.
-TimeStruct sampleTime();
-
-void expectTime(const TimeStruct& expected, const TimeStruct& time);
-
-AlarmExType alarmType(const std::string& name, int major, int minor);
-
-void expectAlarmTypes(const std::vector<AlarmExType>& expected, const std::vector<AlarmExType>& types);
+#include "tests/record/RecordSample.h"
 
 /// A picture with a distinct value in every field.
 SnapshotFile samplePicture();
