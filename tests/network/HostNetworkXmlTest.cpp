@@ -21,8 +21,18 @@ TEST(HostNetworkXml, ResetsWhatIsMissing)
 {
     HostNetworkXml codec;
     codec.setHostNetwork(sampleNetwork());
+    codec.getHostNetwork().setAutoGetDNSFlag(true);
     ASSERT_TRUE(reads(codec, "<HostNetwork />"));
     expectNetwork(HostNetwork(), codec.getHostNetwork());
+}
+
+TEST(HostNetworkXml, TellsItsFlagsApart)
+{
+    HostNetworkXml codec;
+    codec.getHostNetwork().setAutoGetDNSFlag(true);
+    HostNetworkXml reader;
+    ASSERT_TRUE(reads(reader, written(codec)));
+    expectNetwork(codec.getHostNetwork(), reader.getHostNetwork());
 }
 
 TEST(HostNetworkXml, NarrowsThePorts)

@@ -67,6 +67,18 @@ TEST(NetworkParamListXml, ReadsTwoTextsIntoOneList)
     EXPECT_EQ("", output.text());
 }
 
+TEST(NetworkParamListXml, TellsItsFlagsApart)
+{
+    NetworkParam param;
+    param.setAutoGetDNSFlag(true);
+    std::string text;
+    ASSERT_TRUE(NetworkParamListXml().createXmlString({param}, text));
+    std::vector<NetworkParam> list;
+    ASSERT_TRUE(NetworkParamListXml().parseXmlString(text, list));
+    ASSERT_EQ(1U, list.size());
+    expectParam(param, list[0]);
+}
+
 TEST(NetworkParamListXml, TakesItemsByTheirNameAndLeavesWhatTheyLack)
 {
     CapturedOutput output;

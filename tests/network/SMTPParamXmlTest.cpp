@@ -36,10 +36,22 @@ TEST(SMTPParamXml, ReadsNodes)
     EXPECT_EQ("", output.text());
 }
 
+TEST(SMTPParamXml, TellsItsFlagsApart)
+{
+    SMTPParam param;
+    param.setUseDefaultSMTPServerFlag(true);
+    std::string text;
+    ASSERT_TRUE(SMTPParamXml().createXmlString(param, text));
+    SMTPParam read;
+    ASSERT_TRUE(SMTPParamXml().parseXmlString(text, read));
+    expectMail(param, read);
+}
+
 TEST(SMTPParamXml, PrintsALineForEachMissingPropertyAndResetsIt)
 {
     CapturedOutput output;
     SMTPParam read = sampleMail();
+    read.setUseDefaultSMTPServerFlag(true);
     ASSERT_TRUE(SMTPParamXml().parseXmlString("<SMTPParam />", read));
     expectMail(SMTPParam(), read);
     EXPECT_EQ(lines, output.text());

@@ -36,10 +36,22 @@ TEST(ZT_SMTPParamXml, ReadsNodes)
     EXPECT_EQ("", output.text());
 }
 
+TEST(ZT_SMTPParamXml, TellsItsFlagsApart)
+{
+    SMTPParam param;
+    param.setUseDefaultSMTPServerFlag(true);
+    std::string text;
+    ASSERT_TRUE(ZT_SMTPParamXml().createXmlString(param, text));
+    SMTPParam read;
+    ASSERT_TRUE(ZT_SMTPParamXml().parseXmlString(text, read));
+    expectMail(param, read);
+}
+
 TEST(ZT_SMTPParamXml, PrintsALineForEachMissingPropertyAndResetsIt)
 {
     CapturedOutput output;
     SMTPParam read = sampleMail();
+    read.setUseDefaultSMTPServerFlag(true);
     ASSERT_TRUE(ZT_SMTPParamXml().parseXmlString("<ZT_SMTPParam />", read));
     expectMail(SMTPParam(), read);
     EXPECT_EQ(lines, output.text());

@@ -39,10 +39,10 @@ TEST(AlarmExTypeXml, ReadsLists)
 TEST(AlarmExTypeXml, LeavesWhatIsMissing)
 {
     TiXmlDocument document;
-    document.Parse("<AlarmExType MinorAlarmType='9' />");
+    document.Parse("<AlarmExType />");
     AlarmExType type = alarmType("Motion", 1, 2);
     ASSERT_TRUE(AlarmExTypeXml::readElement(*document.RootElement(), type));
-    expectAlarmTypes({alarmType("Motion", 1, 9)}, {type});
+    expectAlarmTypes({alarmType("Motion", 1, 2)}, {type});
 }
 
 TEST(AlarmExTypeXml, TakesWhatIsNoNumberForZero)
