@@ -35,7 +35,7 @@ public:
     int getRtspTransferProtocol() const { return rtspTransferProtocol_; }
     void setRtspTransferProtocol(int rtspTransferProtocol) { rtspTransferProtocol_ = rtspTransferProtocol; }
 
-    /// Where the request goes.
+    /// The endpoint that the request names.
     /// @{
     const InetAddr& getAddr() const { return addr_; }
     InetAddr& getAddr() { return addr_; }
