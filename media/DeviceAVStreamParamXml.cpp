@@ -1,9 +1,8 @@
 // <DeviceAVStreamParam DeviceId="D1">
 //     <AVStreamParamList>
 //         <AVStreamParam CameraId="1" StreamId="2" StreamName="main" VideoHeight="1080" VideoWidth="1920"
-//         FrameRate="25"
-//                        BitRateType="1" BitRate="4096" Quality="4" IFrameInterval="50" IFrameIntervalUnit="1"
-//                        VideoEncoderType="3" AudioEncoderType="2" />
+//                        FrameRate="25" BitRateType="1" BitRate="4096" Quality="4" IFrameInterval="50"
+//                        IFrameIntervalUnit="1" VideoEncoderType="3" AudioEncoderType="2" />
 //     </AVStreamParamList>
 // </DeviceAVStreamParam>
 

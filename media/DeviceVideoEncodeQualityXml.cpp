@@ -22,11 +22,12 @@ bool DeviceVideoEncodeQualityXml::createDomainXmlNode(const DeviceVideoEncodeQua
 
     node->setProperty("CameraID", quality.getCameraID());
 
+    const VideoEncodeQualityXml streamCodec;
     SafePointer<DomainXmlNode> streams = frame::appendNode(node, "VideoEncodeQualityList");
     for (const VideoEncodeQuality& stream : quality.getVideoEncodeQualityList())
     {
         SafePointer<DomainXmlNode> item = frame::appendNode(streams, "VideoEncodeQuality");
-        if (!VideoEncodeQualityXml().createDomainXmlNode(stream, item)) return false;
+        if (!streamCodec.createDomainXmlNode(stream, item)) return false;
     }
     return true;
 }
@@ -52,6 +53,7 @@ bool DeviceVideoEncodeQualityXml::parseDomainXmlNode(const SafePointer<DomainXml
     quality.setCameraID(frame::intProperty(node, "CameraID", 0,
                                            "DeviceVideoEncodeQualityXml::parseDomainXmlNode get CameraID failed "));
 
+    const VideoEncodeQualityXml streamCodec;
     std::vector<VideoEncodeQuality> streams;
     SafePointer<DomainXmlNode> container;
     TiXmlElement* item =
@@ -59,7 +61,7 @@ bool DeviceVideoEncodeQualityXml::parseDomainXmlNode(const SafePointer<DomainXml
     for (; item != nullptr; item = item->NextSiblingElement())
     {
         VideoEncodeQuality stream;
-        if (!VideoEncodeQualityXml().parseDomainXmlNode(frame::nodeOf(*item), stream)) return false;
+        if (!streamCodec.parseDomainXmlNode(frame::nodeOf(*item), stream)) return false;
         streams.push_back(stream);
     }
     quality.setVideoEncodeQualityList(streams);

@@ -1,16 +1,15 @@
 // <StreamConfigList>
 //     <StreamConfig streamId="1" streamName="main" videoWidth="1920" videoHeight="1080" frameRate="12.5"
-//     bitRateType="1"
-//                   bitRate="4096" quality="4" IFrameInterval="50" IFrameIntervalUnit="1" videoEncoderType="3"
-//                   audioEncoderType="2" resolutionId="6" />
+//                   bitRateType="1" bitRate="4096" quality="4" IFrameInterval="50" IFrameIntervalUnit="1"
+//                   videoEncoderType="3" audioEncoderType="2" resolutionId="6" />
 // </StreamConfigList>
 //
 // "IFrameInterval" and its unit begin with a capital letter, alone among these names.
 
 #include "media/StreamConfigureXml.h"
 
+#include "core/Conversions.h"
 #include "core/Frame.h"
-#include "domain/DataConverter.h"
 
 #include <utility>
 
@@ -26,13 +25,11 @@ bool StreamConfigureXml::createDomainXmlNode(const std::vector<StreamConfigure>&
     for (const StreamConfigure& stream : streams)
     {
         SafePointer<DomainXmlNode> item = frame::appendNode(node, "StreamConfig");
-        std::string frameRate;
-        DataConverter::convert(stream.getFrameRate(), frameRate);
         item->setProperty("streamId", stream.getStreamId());
         item->setProperty("streamName", stream.getStreamName());
         item->setProperty("videoWidth", stream.getVideoWidth());
         item->setProperty("videoHeight", stream.getVideoHeight());
-        item->setProperty("frameRate", frameRate);
+        item->setProperty("frameRate", frame::doubleText(stream.getFrameRate()).characters);
         item->setProperty("bitRateType", stream.getBitRateType());
         item->setProperty("bitRate", stream.getBitRate());
         item->setProperty("quality", stream.getQuality());

@@ -77,13 +77,14 @@ bool UserDefineParamXml::createDomainXmlNode(const std::vector<UserDefineParam>&
 {
     if (!node) return false;
 
+    const UserDefineParamItemXml valuesCodec;
     for (const UserDefineParam& param : params)
     {
         SafePointer<DomainXmlNode> item = frame::appendNode(node, "UserDefineParam");
         item->setProperty("UserDefineParamType", param.getParamType());
 
         SafePointer<DomainXmlNode> values = frame::appendNode(item, "UserDefineParamItemList");
-        if (!UserDefineParamItemXml().createDomainXmlNode(param.getParamItemList(), values)) return false;
+        if (!valuesCodec.createDomainXmlNode(param.getParamItemList(), values)) return false;
     }
     return true;
 }
@@ -93,6 +94,7 @@ bool UserDefineParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& no
 {
     if (!node) return false;
 
+    const UserDefineParamItemXml valuesCodec;
     TiXmlElement* element = frame::firstChild(node);
     for (; element != nullptr; element = element->NextSiblingElement())
     {
@@ -106,7 +108,7 @@ bool UserDefineParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& no
         if (item->getConfigNode("UserDefineParamItemList", child))
         {
             std::vector<UserDefineParamItem> values;
-            if (!UserDefineParamItemXml().parseDomainXmlNode(child, values)) return false;
+            if (!valuesCodec.parseDomainXmlNode(child, values)) return false;
             param.setParamItemList(values);
         }
         params.push_back(std::move(param));

@@ -3,8 +3,8 @@
 
 #include "media/VideoEncodeQualityXml.h"
 
+#include "core/Conversions.h"
 #include "core/Frame.h"
-#include "domain/DataConverter.h"
 
 VideoEncodeQualityXml::VideoEncodeQualityXml() = default;
 
@@ -69,10 +69,8 @@ bool VideoEncodeQualityXml::createDomainXmlNode(const VideoEncodeQuality& qualit
 {
     if (!node) return false;
 
-    std::string frameRate;
-    DataConverter::convert(quality.getFrameRate(), frameRate);
     node->setProperty("VideoSystem", quality.getVideoSystem());
-    node->setProperty("FrameRate", frameRate);
+    node->setProperty("FrameRate", frame::doubleText(quality.getFrameRate()).characters);
     node->setProperty("ImageFormatId", quality.getImageFormatId());
     node->setProperty("BitRateType", quality.getBitRateType());
     node->setProperty("BitRate", quality.getBitRate());
