@@ -135,6 +135,16 @@ TEST(BlindAreaParamXml, ReplacesTheAreasOfTheRecord)
     expectBlindArea(sample(), read);
 }
 
+TEST(BlindAreaParamXml, ReadsItemsOfAnyName)
+{
+    CapturedOutput output;
+    std::vector<BlindAreaParam> list;
+    ASSERT_TRUE(BlindAreaParamXml().parseXmlString(
+        "<BlindAreaParamList>text<!--BlindAreaParam--><Other CameraId='9' /></BlindAreaParamList>", list));
+    ASSERT_EQ(1U, list.size());
+    EXPECT_EQ(9, list[0].getCameraId());
+}
+
 TEST(BlindAreaParamXml, RefusesAnEmptyPointer)
 {
     SafePointer<DomainXmlNode> empty;
@@ -146,4 +156,13 @@ TEST(BlindAreaParamXml, RefusesAnEmptyPointer)
     EXPECT_FALSE(BlindAreaParamXml().parseDomainXmlNode(empty, list));
     expectBlindArea(sample(), read);
     EXPECT_EQ(1U, list.size());
+}
+
+TEST(BlindAreaParamXml, RefusesTheRootOfTheOtherKind)
+{
+    BlindAreaParam read;
+    std::vector<BlindAreaParam> list;
+    EXPECT_FALSE(BlindAreaParamXml().parseXmlString(golden("media/BlindAreaParamXml.list.xml"), read));
+    EXPECT_FALSE(BlindAreaParamXml().parseXmlString(golden("media/BlindAreaParamXml.node.xml"), list));
+    EXPECT_TRUE(list.empty());
 }

@@ -129,8 +129,8 @@ TEST(DeviceAVStreamParamXml, LeavesTheStreamsOfADeviceThatFails)
     EXPECT_EQ(2U, device.getAVStreamParamList().size());
 
     EXPECT_FALSE(DeviceAVStreamParamXml().parseXmlString(
-        "<DeviceAVStreamParam DeviceId='newer'><AVStreamParamList><AVStreamParam "
-        "/></AVStreamParamList></DeviceAVStreamParam>",
+        "<DeviceAVStreamParam DeviceId='newer'><AVStreamParamList><AVStreamParam /></AVStreamParamList>"
+        "</DeviceAVStreamParam>",
         device));
     EXPECT_EQ("newer", device.getDeviceId());
     EXPECT_EQ(2U, device.getAVStreamParamList().size());

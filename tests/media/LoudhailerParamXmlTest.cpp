@@ -95,6 +95,16 @@ TEST(LoudhailerParamXml, ReadsListsBehindWhatTheyHold)
     expectParam(LoudhailerParam(), list[2]);
 }
 
+TEST(LoudhailerParamXml, ReadsItemsOfAnyName)
+{
+    CapturedOutput output;
+    std::vector<LoudhailerParam> list;
+    ASSERT_TRUE(LoudhailerParamXml().parseXmlString(
+        "<LoudhailerParamList>text<!--LoudhailerParam--><Other Volume='9' /></LoudhailerParamList>", list));
+    ASSERT_EQ(1U, list.size());
+    EXPECT_EQ(9, list[0].getVolume());
+}
+
 TEST(LoudhailerParamXml, RefusesAnEmptyPointer)
 {
     SafePointer<DomainXmlNode> empty;
@@ -106,4 +116,13 @@ TEST(LoudhailerParamXml, RefusesAnEmptyPointer)
     EXPECT_FALSE(LoudhailerParamXml().parseDomainXmlNode(empty, list));
     expectParam(sample(), read);
     EXPECT_EQ(1U, list.size());
+}
+
+TEST(LoudhailerParamXml, RefusesTheRootOfTheOtherKind)
+{
+    LoudhailerParam read;
+    std::vector<LoudhailerParam> list;
+    EXPECT_FALSE(LoudhailerParamXml().parseXmlString(golden("media/LoudhailerParamXml.list.xml"), read));
+    EXPECT_FALSE(LoudhailerParamXml().parseXmlString(golden("media/LoudhailerParamXml.node.xml"), list));
+    EXPECT_TRUE(list.empty());
 }

@@ -90,6 +90,16 @@ TEST(MosaicParamXml, CarriesTheHighestSizeAsASignedNumber)
     expectMosaic(codec.getMosaicParam(), read);
 }
 
+TEST(MosaicParamXml, ReadsItemsOfAnyName)
+{
+    CapturedOutput output;
+    std::vector<MosaicParam> list;
+    ASSERT_TRUE(MosaicParamXml().parseXmlString(
+        "<MosaicParamList>text<!--MosaicParam--><Other Width='9' /></MosaicParamList>", list));
+    ASSERT_EQ(1U, list.size());
+    EXPECT_EQ(9U, list[0].getWidth());
+}
+
 TEST(MosaicParamXml, RefusesAnEmptyPointer)
 {
     SafePointer<DomainXmlNode> empty;
@@ -101,4 +111,13 @@ TEST(MosaicParamXml, RefusesAnEmptyPointer)
     EXPECT_FALSE(MosaicParamXml().parseDomainXmlNode(empty, list));
     expectMosaic(sampleMosaic(), read);
     EXPECT_EQ(1U, list.size());
+}
+
+TEST(MosaicParamXml, RefusesTheRootOfTheOtherKind)
+{
+    MosaicParam read;
+    std::vector<MosaicParam> list;
+    EXPECT_FALSE(MosaicParamXml().parseXmlString(golden("media/MosaicParamXml.list.xml"), read));
+    EXPECT_FALSE(MosaicParamXml().parseXmlString(golden("media/MosaicParamXml.node.xml"), list));
+    EXPECT_TRUE(list.empty());
 }

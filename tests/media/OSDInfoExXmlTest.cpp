@@ -87,6 +87,7 @@ TEST(OSDInfoExXml, KeepsAPositionThatIsNoRoundNumber)
     codec.setOSDInfo(sampleText());
     codec.getOSDInfo().setX(0.1F);
     const std::string document = written(codec);
+    EXPECT_NE(std::string::npos, document.find(" X=\"0.10000000149011612\"")); // not the float's own shortest text
     std::string node;
     ASSERT_TRUE(OSDInfoExXml().createXmlString(codec.getOSDInfo(), node));
     EXPECT_EQ(document, node);

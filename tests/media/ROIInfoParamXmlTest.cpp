@@ -63,6 +63,16 @@ TEST(ROIInfoParamXml, PrintsTheLinesOfItsArea)
               output.text());
 }
 
+TEST(ROIInfoParamXml, ReadsItemsOfAnyName)
+{
+    CapturedOutput output;
+    std::vector<ROIInfoParam> list;
+    ASSERT_TRUE(ROIInfoParamXml().parseXmlString(
+        "<ROIInfoParamList>text<!--ROIInfoParam--><Other IndexID='9' /></ROIInfoParamList>", list));
+    ASSERT_EQ(1U, list.size());
+    EXPECT_EQ(9, list[0].getIndexID());
+}
+
 TEST(ROIInfoParamXml, RefusesAnEmptyPointer)
 {
     SafePointer<DomainXmlNode> empty;
@@ -70,4 +80,13 @@ TEST(ROIInfoParamXml, RefusesAnEmptyPointer)
     EXPECT_FALSE(ROIInfoParamXml().createDomainXmlNode(read, empty));
     EXPECT_FALSE(ROIInfoParamXml().parseDomainXmlNode(empty, read));
     expectRegion(sampleRegion(), read);
+}
+
+TEST(ROIInfoParamXml, RefusesTheRootOfTheOtherKind)
+{
+    ROIInfoParam read;
+    std::vector<ROIInfoParam> list;
+    EXPECT_FALSE(ROIInfoParamXml().parseXmlString(golden("media/ROIInfoParamXml.list.xml"), read));
+    EXPECT_FALSE(ROIInfoParamXml().parseXmlString(golden("media/ROIInfoParamXml.node.xml"), list));
+    EXPECT_TRUE(list.empty());
 }

@@ -95,6 +95,16 @@ TEST(ToneArmParamXml, ReadsListsBehindWhatTheyHold)
     expectParam(ToneArmParam(), list[2]);
 }
 
+TEST(ToneArmParamXml, ReadsItemsOfAnyName)
+{
+    CapturedOutput output;
+    std::vector<ToneArmParam> list;
+    ASSERT_TRUE(ToneArmParamXml().parseXmlString(
+        "<ToneArmParamList>text<!--ToneArmParam--><Other Volume='9' /></ToneArmParamList>", list));
+    ASSERT_EQ(1U, list.size());
+    EXPECT_EQ(9, list[0].getVolume());
+}
+
 TEST(ToneArmParamXml, RefusesAnEmptyPointer)
 {
     SafePointer<DomainXmlNode> empty;
@@ -106,4 +116,13 @@ TEST(ToneArmParamXml, RefusesAnEmptyPointer)
     EXPECT_FALSE(ToneArmParamXml().parseDomainXmlNode(empty, list));
     expectParam(sample(), read);
     EXPECT_EQ(1U, list.size());
+}
+
+TEST(ToneArmParamXml, RefusesTheRootOfTheOtherKind)
+{
+    ToneArmParam read;
+    std::vector<ToneArmParam> list;
+    EXPECT_FALSE(ToneArmParamXml().parseXmlString(golden("media/ToneArmParamXml.list.xml"), read));
+    EXPECT_FALSE(ToneArmParamXml().parseXmlString(golden("media/ToneArmParamXml.node.xml"), list));
+    EXPECT_TRUE(list.empty());
 }
