@@ -1,12 +1,14 @@
 #pragma once
 
 /// @file
-/// The records of recordings: search, results, files and disks.
+/// The records of recordings: search, results, files, disks and policies.
 ///
 /// Records are values: copyable, and 0, empty or false in every field when new. They are not locked. Times are seconds
 /// since 1970-01-01 00:00:00 UTC unless told otherwise.
 
+#include "domain/AlarmRecords.h"
 #include "domain/CoreRecords.h"
+#include "domain/MediaRecords.h"
 
 #include <string>
 #include <vector>
@@ -651,4 +653,342 @@ private:
     unsigned long recordEndTime_ = 0;
     TimeStruct recordBeginTimeStruct_;
     TimeStruct recordEndTimeStruct_;
+};
+
+/// What a camera records when an alarm comes.
+class AlarmRecordPolicy
+{
+public:
+    /// How much is recorded from before the alarm, and how long recording goes on after it, in the unit of the device.
+    /// @{
+    int getAlarmPreRecordTime() const { return alarmPreRecordTime_; }
+    int getAlarmDelayRecordTime() const { return alarmDelayRecordTime_; }
+    void setAlarmRecordTime(int alarmPreRecordTime, int alarmDelayRecordTime)
+    {
+        alarmPreRecordTime_ = alarmPreRecordTime;
+        alarmDelayRecordTime_ = alarmDelayRecordTime;
+    }
+    /// @}
+
+    /// Whether the files are locked against being overwritten.
+    bool isAlarmRecordFileLocked() const { return alarmRecordFileLocked_; }
+    void setAlarmRecordFileLockedState(bool alarmRecordFileLocked) { alarmRecordFileLocked_ = alarmRecordFileLocked; }
+
+    /// Whether alarms are recorded at all.
+    bool isAlarmRecordOpened() const { return alarmRecordOpened_; }
+    void setAlarmRecordOpenState(bool alarmRecordOpened) { alarmRecordOpened_ = alarmRecordOpened; }
+
+    /// The alarms that count. The setter copies its argument, which stays as it is.
+    /// @{
+    const std::vector<AlarmEvent>& getAlarmEventList() const { return alarmEventList_; }
+    std::vector<AlarmEvent>& getAlarmEventList() { return alarmEventList_; }
+    void setAlarmEventList(std::vector<AlarmEvent>& alarmEventList) { alarmEventList_ = alarmEventList; }
+    /// @}
+
+private:
+    int alarmPreRecordTime_ = 0;
+    int alarmDelayRecordTime_ = 0;
+    bool alarmRecordFileLocked_ = false;
+    bool alarmRecordOpened_ = false;
+    std::vector<AlarmEvent> alarmEventList_;
+};
+
+/// What a camera records by the clock.
+class ScheduleRecordPolicy
+{
+public:
+    /// Whether the schedule is in force.
+    bool isScheduleRecordOpened() const { return scheduleRecordOpened_; }
+    void setScheduleRecordOpenState(bool scheduleRecordOpened) { scheduleRecordOpened_ = scheduleRecordOpened; }
+
+    /// Kind of recording, as the device numbers it.
+    int getScheduleRecordType() const { return scheduleRecordType_; }
+    void setScheduleRecordType(int scheduleRecordType) { scheduleRecordType_ = scheduleRecordType; }
+
+    /// When it records.
+    /// @{
+    const ScheduleTimeParam& getScheduleTimeParam() const { return scheduleTimeParam_; }
+    ScheduleTimeParam& getScheduleTimeParam() { return scheduleTimeParam_; }
+    void setScheduleTimeParam(const ScheduleTimeParam& scheduleTimeParam) { scheduleTimeParam_ = scheduleTimeParam; }
+    /// @}
+
+private:
+    bool scheduleRecordOpened_ = false;
+    int scheduleRecordType_ = 0;
+    ScheduleTimeParam scheduleTimeParam_;
+};
+
+/// What is recorded of one camera, and how it is kept.
+class RecordPolicy
+{
+public:
+    /// Identity of the device that records.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// How many days recordings are kept.
+    int getSaveDays() const { return saveDays_; }
+    void setSaveDays(int saveDays) { saveDays_ = saveDays; }
+
+    /// Whether sound is recorded too.
+    bool isRecordAudioOpened() const { return recordAudioOpened_; }
+    void enableRecordAudio(bool recordAudioOpened) { recordAudioOpened_ = recordAudioOpened; }
+
+    /// Whether the oldest recordings are overwritten when the disk is full.
+    bool getCycleWriteFlag() const { return cycleWriteFlag_; }
+    void setCycleWriteFlag(bool cycleWriteFlag) { cycleWriteFlag_ = cycleWriteFlag; }
+
+    /// Whether a second copy is kept.
+    bool getIsRedundancy() const { return isRedundancy_; }
+    void setIsRedundancy(bool isRedundancy) { isRedundancy_ = isRedundancy; }
+
+    /// Number of the group of disks that recordings go to.
+    int getDiskGroupId() const { return diskGroupId_; }
+    void setDiskGroupId(int diskGroupId) { diskGroupId_ = diskGroupId; }
+
+    /// Number of the stream that is recorded.
+    int getStreamId() const { return streamId_; }
+    void setStreamId(int streamId) { streamId_ = streamId; }
+
+    /// What is recorded when an alarm comes.
+    /// @{
+    const AlarmRecordPolicy& getAlarmRecordPolicy() const { return alarmRecordPolicy_; }
+    AlarmRecordPolicy& getAlarmRecordPolicy() { return alarmRecordPolicy_; }
+    void setAlarmRecordPolicy(const AlarmRecordPolicy& alarmRecordPolicy) { alarmRecordPolicy_ = alarmRecordPolicy; }
+    /// @}
+
+    /// What is recorded by the clock.
+    /// @{
+    const ScheduleRecordPolicy& getScheduleRecordPolicy() const { return scheduleRecordPolicy_; }
+    ScheduleRecordPolicy& getScheduleRecordPolicy() { return scheduleRecordPolicy_; }
+    void setScheduleRecordPolicy(const ScheduleRecordPolicy& scheduleRecordPolicy)
+    {
+        scheduleRecordPolicy_ = scheduleRecordPolicy;
+    }
+    /// @}
+
+private:
+    std::string deviceId_;
+    int cameraId_ = 0;
+    int saveDays_ = 0;
+    bool recordAudioOpened_ = false;
+    bool cycleWriteFlag_ = false;
+    bool isRedundancy_ = false;
+    int diskGroupId_ = 0;
+    int streamId_ = 0;
+    AlarmRecordPolicy alarmRecordPolicy_;
+    ScheduleRecordPolicy scheduleRecordPolicy_;
+};
+
+/// When a camera is recorded by the clock, as one command sets it.
+class ScheduleRecordParam
+{
+public:
+    /// Identity of the device that records.
+    const std::string& getDeviceId() const { return deviceId_; }
+    void setDeviceId(const std::string& deviceId) { deviceId_ = deviceId; }
+
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// Whether the schedule is in force.
+    bool getEnableRecord() const { return enableRecord_; }
+    void setEnableRecord(bool enableRecord) { enableRecord_ = enableRecord; }
+
+    /// Kind of recording, as the device numbers it.
+    int getScheduleRecordType() const { return scheduleRecordType_; }
+    void setScheduleRecordType(int scheduleRecordType) { scheduleRecordType_ = scheduleRecordType; }
+
+    /// Whether sound is recorded too.
+    bool getEnableRecordAudio() const { return enableRecordAudio_; }
+    void setEnableRecordAudio(bool enableRecordAudio) { enableRecordAudio_ = enableRecordAudio; }
+
+    /// When it records.
+    /// @{
+    const ScheduleTimeParam& getScheduleTimeParam() const { return scheduleTimeParam_; }
+    ScheduleTimeParam& getScheduleTimeParam() { return scheduleTimeParam_; }
+    void setScheduleTimeParam(const ScheduleTimeParam& scheduleTimeParam) { scheduleTimeParam_ = scheduleTimeParam; }
+    /// @}
+
+private:
+    std::string deviceId_;
+    int cameraId_ = 0;
+    bool enableRecord_ = false;
+    int scheduleRecordType_ = 0;
+    bool enableRecordAudio_ = false;
+    ScheduleTimeParam scheduleTimeParam_;
+};
+
+/// How recordings are written to files.
+class WritePolicy
+{
+public:
+    /// How files are laid on the disks, as the device numbers it.
+    int getStoragePolicy() const { return storagePolicy_; }
+    void setStoragePolicy(int storagePolicy) { storagePolicy_ = storagePolicy; }
+
+    /// What ends a file, as the device numbers it.
+    int getRecordLengthMode() const { return recordLengthMode_; }
+    void setRecordLengthMode(int recordLengthMode) { recordLengthMode_ = recordLengthMode; }
+
+    /// Largest size of a file, in the unit of the device.
+    int getRecordFileMaxSize() const { return recordFileMaxSize_; }
+    void setRecordFileMaxSize(int recordFileMaxSize) { recordFileMaxSize_ = recordFileMaxSize; }
+
+    /// Longest time in a file, in the unit of the device.
+    int getRecordFileTime() const { return recordFileTime_; }
+    void setRecordFileTime(int recordFileTime) { recordFileTime_ = recordFileTime; }
+
+    /// What the names of files end in.
+    const std::string& getFileNameSuffix() const { return fileNameSuffix_; }
+    void setFileNameSuffix(const std::string& fileNameSuffix) { fileNameSuffix_ = fileNameSuffix; }
+
+    /// Format of files, as the device numbers it.
+    int getRecordFormatType() const { return recordFormatType_; }
+    void setRecordFormatType(int recordFormatType) { recordFormatType_ = recordFormatType; }
+
+private:
+    int storagePolicy_ = 0;
+    int recordLengthMode_ = 0;
+    int recordFileMaxSize_ = 0;
+    int recordFileTime_ = 0;
+    std::string fileNameSuffix_;
+    int recordFormatType_ = 0;
+};
+
+/// How long recordings are kept.
+class SavePolicy
+{
+public:
+    /// In days.
+    int getRecordSaveDays() const { return recordSaveDays_; }
+    void setRecordSaveDays(int recordSaveDays) { recordSaveDays_ = recordSaveDays; }
+
+private:
+    int recordSaveDays_ = 0;
+};
+
+/// How much disk one camera gets.
+class SpacePolicy
+{
+public:
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// The most that it gets, in the unit of the device.
+    int getMaxDiskSize() const { return maxDiskSize_; }
+    void setMaxDiskSize(int maxDiskSize) { maxDiskSize_ = maxDiskSize; }
+
+    /// Share of that for recordings by the clock, in percent.
+    float getScheduleRecordDiskSizePercent() const { return scheduleRecordDiskSizePercent_; }
+    void setScheduleRecordDiskSizePercent(float scheduleRecordDiskSizePercent)
+    {
+        scheduleRecordDiskSizePercent_ = scheduleRecordDiskSizePercent;
+    }
+
+    /// Share of that for recordings of alarms, in percent.
+    float getAlarmRecordDiskSizePercent() const { return alarmRecordDiskSizePercent_; }
+    void setAlarmRecordDiskSizePercent(float alarmRecordDiskSizePercent)
+    {
+        alarmRecordDiskSizePercent_ = alarmRecordDiskSizePercent;
+    }
+
+private:
+    int cameraId_ = 0;
+    int maxDiskSize_ = 0;
+    float scheduleRecordDiskSizePercent_ = 0;
+    float alarmRecordDiskSizePercent_ = 0;
+};
+
+/// How a device stores recordings.
+class RecordStorageParam
+{
+public:
+    /// How they are written to files.
+    /// @{
+    const WritePolicy& getWritePolicy() const { return writePolicy_; }
+    WritePolicy& getWritePolicy() { return writePolicy_; }
+    void setWritePolicy(const WritePolicy& writePolicy) { writePolicy_ = writePolicy; }
+    /// @}
+
+    /// How long they are kept.
+    /// @{
+    const SavePolicy& getSavePolicy() const { return savePolicy_; }
+    SavePolicy& getSavePolicy() { return savePolicy_; }
+    void setSavePolicy(const SavePolicy& savePolicy) { savePolicy_ = savePolicy; }
+    /// @}
+
+    /// How much disk each camera gets.
+    /// @{
+    const std::vector<SpacePolicy>& getSpacePolicyList() const { return spacePolicyList_; }
+    std::vector<SpacePolicy>& getSpacePolicyList() { return spacePolicyList_; }
+    void setSpacePolicyList(const std::vector<SpacePolicy>& spacePolicyList) { spacePolicyList_ = spacePolicyList; }
+    /// @}
+
+private:
+    WritePolicy writePolicy_;
+    SavePolicy savePolicy_;
+    std::vector<SpacePolicy> spacePolicyList_;
+};
+
+/// How the recordings of a camera are encoded.
+class RecordQualityParam
+{
+public:
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// The picture.
+    /// @{
+    const VideoEncodeQuality& getVideoEncodeQuality() const { return videoEncodeQuality_; }
+    VideoEncodeQuality& getVideoEncodeQuality() { return videoEncodeQuality_; }
+    void setVideoEncodeQuality(const VideoEncodeQuality& videoEncodeQuality)
+    {
+        videoEncodeQuality_ = videoEncodeQuality;
+    }
+    /// @}
+
+    /// The sound.
+    /// @{
+    const AudioEncodeQuality& getAudioEncodeQuality() const { return audioEncodeQuality_; }
+    AudioEncodeQuality& getAudioEncodeQuality() { return audioEncodeQuality_; }
+    void setAudioEncodeQuality(const AudioEncodeQuality& audioEncodeQuality)
+    {
+        audioEncodeQuality_ = audioEncodeQuality;
+    }
+    /// @}
+
+private:
+    int cameraId_ = 0;
+    VideoEncodeQuality videoEncodeQuality_;
+    AudioEncodeQuality audioEncodeQuality_;
+};
+
+/// Asks a device to record a camera now.
+class ManualRecordParameter
+{
+public:
+    /// The camera's number on the device.
+    int getCameraId() const { return cameraId_; }
+    void setCameraId(int cameraId) { cameraId_ = cameraId; }
+
+    /// How long, in the unit of the device. The document carries it as if it were a point in time.
+    unsigned long getRecordDuration() const { return recordDuration_; }
+    void setRecordDuration(unsigned long recordDuration) { recordDuration_ = recordDuration; }
+
+    /// Number of the stream that is recorded.
+    int getStreamId() const { return streamId_; }
+    void setStreamId(int streamId) { streamId_ = streamId; }
+
+private:
+    int cameraId_ = 0;
+    unsigned long recordDuration_ = 0;
+    int streamId_ = 0;
 };

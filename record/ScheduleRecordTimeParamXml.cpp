@@ -1,0 +1,154 @@
+// <ScheduleRecordTimeParam DeviceId="D1" CameraId="1">
+//     <ScheduleWeekList>
+//         <ScheduleWeek ... />
+//     </ScheduleWeekList>
+//     <ScheduleTimeSegmentList>
+//         <ScheduleTimeSegment ... />
+//     </ScheduleTimeSegmentList>
+// </ScheduleRecordTimeParam>
+//
+// The document form is that of a ScheduleTimeParam under another name. The node form differs from it.
+
+#include "record/ScheduleRecordTimeParamXml.h"
+
+#include "alarm/ScheduleTimeParamXml.h"
+#include "alarm/ScheduleTimeSegmentXml.h"
+#include "alarm/ScheduleWeekXml.h"
+#include "core/Frame.h"
+
+#include <cstdio>
+#include <utility>
+#include <vector>
+
+namespace
+{
+
+bool readWeeks(const SafePointer<DomainXmlNode>& list, std::vector<ScheduleWeek>& weeks)
+{
+    TiXmlElement* item = frame::firstChild(list);
+    for (; item != nullptr; item = item->NextSiblingElement())
+    {
+        ScheduleWeek week;
+        if (!ScheduleWeekXml().parseDomainXmlNode(frame::nodeOf(*item), week)) return false;
+        weeks.push_back(std::move(week));
+    }
+    return true;
+}
+
+bool readSegments(const SafePointer<DomainXmlNode>& list, std::vector<ScheduleTimeSegment>& segments)
+{
+    TiXmlElement* item = frame::firstChild(list);
+    for (; item != nullptr; item = item->NextSiblingElement())
+    {
+        ScheduleTimeSegment segment;
+        if (!ScheduleTimeSegmentXml().parseDomainXmlNode(frame::nodeOf(*item), segment)) return false;
+        segments.push_back(segment);
+    }
+    return true;
+}
+
+} // namespace
+
+ScheduleRecordTimeParamXml::ScheduleRecordTimeParamXml() = default;
+
+ScheduleRecordTimeParamXml::~ScheduleRecordTimeParamXml() = default;
+
+void ScheduleRecordTimeParamXml::createXmlNode()
+{
+    writeElement(document_, schedule_);
+}
+
+bool ScheduleRecordTimeParamXml::createXmlString()
+{
+    createXmlNode();
+    frame::print(document_, text_);
+    return true;
+}
+
+bool ScheduleRecordTimeParamXml::parseXmlString()
+{
+    return frame::parseRoot(text_, "ScheduleRecordTimeParam", document_, node_) && parseXmlNode();
+}
+
+bool ScheduleRecordTimeParamXml::parseXmlNode()
+{
+    const TiXmlElement* element = frame::elementOf(node_);
+    return element != nullptr && readElement(*element, schedule_);
+}
+
+TiXmlElement& ScheduleRecordTimeParamXml::writeElement(TiXmlNode& parent, const ScheduleTimeParam& schedule)
+{
+    TiXmlElement& element = ScheduleTimeParamXml::writeElement(parent, schedule);
+    element.SetValue("ScheduleRecordTimeParam");
+    return element;
+}
+
+bool ScheduleRecordTimeParamXml::readElement(const TiXmlElement& element, ScheduleTimeParam& schedule)
+{
+    return ScheduleTimeParamXml::readElement(element, schedule);
+}
+
+bool ScheduleRecordTimeParamXml::createDomainXmlNode(const ScheduleTimeParam& schedule,
+                                                     SafePointer<DomainXmlNode>& node) const
+{
+    if (!node) return false;
+
+    // Here, and not in the document form, the peers put the camera before the device.
+    node->setProperty("CameraId", schedule.getCameraId());
+    node->setProperty("DeviceId", schedule.getDeviceId());
+
+    SafePointer<DomainXmlNode> weeks = frame::appendNode(node, "ScheduleWeekList");
+    for (const ScheduleWeek& week : schedule.getScheduleWeekList())
+    {
+        SafePointer<DomainXmlNode> item = frame::appendNode(weeks, "ScheduleWeek");
+        if (!ScheduleWeekXml().createDomainXmlNode(week, item)) return false;
+    }
+
+    SafePointer<DomainXmlNode> segments = frame::appendNode(node, "ScheduleTimeSegmentList");
+    for (const ScheduleTimeSegment& segment : schedule.getScheduleTimeSegmentList())
+    {
+        SafePointer<DomainXmlNode> item = frame::appendNode(segments, "ScheduleTimeSegment");
+        if (!ScheduleTimeSegmentXml().createDomainXmlNode(segment, item)) return false;
+    }
+    return true;
+}
+
+bool ScheduleRecordTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node,
+                                                    ScheduleTimeParam& schedule) const
+{
+    if (!node) return false;
+
+    schedule.setCameraId(frame::intProperty(
+        node, "CameraId", 1, "ScheduleRecordTimeParamXml::parseDomainXmlNode  node = ATTR_CAMERA_ID failed"));
+    schedule.setDeviceId(frame::textProperty(
+        node, "DeviceId", "", "ScheduleRecordTimeParamXml::parseDomainXmlNode  node = ATTR_DEVICE_ID failed"));
+
+    SafePointer<DomainXmlNode> weekList;
+    std::vector<ScheduleWeek> weeks;
+    if (!node->getConfigNode("ScheduleWeekList", weekList))
+        std::puts("ScheduleRecordTimeParamXml::parseDomainXmlNode  node = NODE_SCHEDULE_WEEK_LIST failed");
+    else if (!readWeeks(weekList, weeks))
+        return false;
+    schedule.setScheduleWeekList(weeks);
+
+    SafePointer<DomainXmlNode> segmentList;
+    std::vector<ScheduleTimeSegment> segments;
+    if (!node->getConfigNode("ScheduleTimeSegmentList", segmentList))
+        std::puts("ScheduleRecordTimeParamXml::parseDomainXmlNode  node = NODE_SCHEDULE_TIME_SEGMENT_LIST failed");
+    else if (!readSegments(segmentList, segments))
+        return false;
+    schedule.setScheduleTimeSegmentList(segments);
+    return true;
+}
+
+bool ScheduleRecordTimeParamXml::createXmlString(const ScheduleTimeParam& schedule, std::string& text) const
+{
+    SafePointer<DomainXmlNode> node = frame::makeNode("ScheduleRecordTimeParam");
+    return createDomainXmlNode(schedule, node) && DomainXmlNode::toString(node, text);
+}
+
+bool ScheduleRecordTimeParamXml::parseXmlString(const std::string& text, ScheduleTimeParam& schedule) const
+{
+    SafePointer<DomainXmlNode> node;
+    return DomainXmlNode::parse(text, "ScheduleRecordTimeParam", node) && parseDomainXmlNode(node, schedule);
+}
