@@ -8,6 +8,7 @@
 #include "media/AudioProcessParamXml.h"
 #include "media/BlindAreaParamV2Xml.h"
 #include "media/BlindAreaParamXml.h"
+#include "media/CameraConfigureExXml.h"
 #include "media/DeviceAVStreamParamXml.h"
 #include "media/DeviceOSDInfoXml.h"
 #include "media/DeviceROIInfoParamXml.h"
@@ -65,6 +66,7 @@ std::vector<CodecCase> mediaCodecs()
         {"media", "BlindAreaParamXml", "document", rewriteDocument<BlindAreaParamXml>},
         {"media", "BlindAreaParamXml", "node", rewriteText<BlindAreaParamXml, BlindAreaParam>},
         {"media", "BlindAreaParamXml", "list", rewriteText<BlindAreaParamXml, std::vector<BlindAreaParam>>},
+        {"media", "CameraConfigureExXml", "node", rewriteText<CameraConfigureExXml, CameraConfigureEx>},
         {"media", "DeviceAVStreamParamXml", "node", rewriteText<DeviceAVStreamParamXml, DeviceAVStreamParam>},
         {"media", "DeviceAVStreamParamXml", "list", rewriteText<DeviceAVStreamParamXml, std::vector<DeviceAVStreamParam>>},
         {"media", "DeviceOSDInfoXml", "node", rewriteText<DeviceOSDInfoXml, DeviceOSDInfo>},
