@@ -1,4 +1,4 @@
-// FE 01 00 1D                                  mark, version, length of the payload
+// FE 01 00 26                                  mark, version, length of the payload
 //     01                                       one target
 //         FA 00  00 00 00 07  02               mark, index, ID, type
 //         2D 19  03 32                         direction 45.25, speed 3.50
@@ -11,13 +11,16 @@
 //         00                                   no point of its area
 //         00                                   no related target
 //         FD                                   end mark
-// ... FF                                       checksum, trailer
+// 8C FF                                        checksum, trailer
 
 #include "alarm/AlarmDetailCreator.h"
 
 #include "core/Conversions.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -185,14 +188,6 @@ void write(Writer& writer, std::size_t index, const AlarmDetailEvent& event)
     writer.byte(eventEnd);
 }
 
-template <class Block>
-void writeAll(Writer& writer, const std::vector<Block>& blocks)
-{
-    writer.byte(blocks.size());
-    for (std::size_t index = 0; index < blocks.size(); ++index)
-        write(writer, index, blocks[index]);
-}
-
 int readTargets(Reader reader, std::vector<AlarmDetailTarget>& targets)
 {
     if (!reader.has(1)) return -1;
@@ -281,8 +276,17 @@ bool AlarmDetailCreator::creatAlarmDetail(const AlarmDetail& detail, char** fram
     writer.byte(version);
     writer.byte(payload >> 8);
     writer.byte(payload);
-    writeAll(writer, detail.getAlarmTarget());
-    writeAll(writer, detail.getAlarmEvent());
+
+    const std::vector<AlarmDetailTarget>& targets = detail.getAlarmTarget();
+    writer.byte(targets.size());
+    for (std::size_t index = 0; index < targets.size(); ++index)
+        write(writer, index, targets[index]);
+
+    const std::vector<AlarmDetailEvent>& events = detail.getAlarmEvent();
+    writer.byte(events.size());
+    for (std::size_t index = 0; index < events.size(); ++index)
+        write(writer, index, events[index]);
+
     writer.byte(checksum(buffer_.get(), writer.at()));
     writer.byte(trailer);
 
@@ -315,10 +319,9 @@ bool AlarmDetailCreator::parseAlarmDetail(const char* frame, AlarmDetail& detail
     const int eventBytes = readEvents(Reader(bytes + headerSize + taken, readable - taken), events);
     if (length != targetBytes + eventBytes) return false;
 
-    for (const AlarmDetailTarget& target : targets)
-        detail.setAlarmTarget(target);
-    for (const AlarmDetailEvent& event : events)
-        detail.setAlarmEvent(event);
+    // Moved, not copied: by what events bring along, a frame of 32 KB can become some 30 MB of points.
+    std::move(targets.begin(), targets.end(), std::back_inserter(detail.getAlarmTarget()));
+    std::move(events.begin(), events.end(), std::back_inserter(detail.getAlarmEvent()));
     return true;
 }
 

@@ -2,7 +2,6 @@
 
 #include "domain/AlarmRecords.h"
 
-#include <cstddef>
 #include <memory>
 #include <vector>
 
