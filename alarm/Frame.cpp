@@ -24,6 +24,45 @@ void findList(const SafePointer<DomainXmlNode>& node, const char* container, con
     if (!node->getConfigNode(container, list) && line != nullptr) std::puts(line);
 }
 
+/// Adds up what elements take to be read: themselves, and the bytes of their values.
+class Weight : public TiXmlVisitor
+{
+public:
+    explicit Weight(const TiXmlElement& element) { element.Accept(this); }
+
+    using TiXmlVisitor::VisitEnter;
+    bool VisitEnter(const TiXmlElement& /*element*/, const TiXmlAttribute* attribute) override
+    {
+        ++sum_;
+        for (; attribute != nullptr; attribute = attribute->Next())
+            sum_ += attribute->ValueStr().size();
+        return true;
+    }
+
+    unsigned long long sum() const { return sum_; }
+
+private:
+    unsigned long long sum_ = 0;
+};
+
+/// How many items a list without a container may have, of which @p first is one: as many as there are elements, or 64
+/// where there are less. If the second, which is read again and again, is so much larger than the others that all would
+/// take more than 64 times what they do as they stand, then less, down to 64.
+std::size_t mostItems(const TiXmlElement& first)
+{
+    constexpr unsigned long long allowed = 64;
+    unsigned long long there = 0;
+    for (const TiXmlElement* element = &first; element != nullptr; element = element->NextSiblingElement())
+        ++there;
+    if (there <= allowed) return allowed;
+
+    unsigned long long all = 0;
+    for (const TiXmlElement* element = &first; element != nullptr; element = element->NextSiblingElement())
+        all += Weight(*element).sum();
+    const unsigned long long second = Weight(*first.NextSiblingElement()).sum();
+    return static_cast<std::size_t>(std::clamp(allowed * all / second, allowed, there));
+}
+
 } // namespace
 
 void writeActions(TiXmlElement& parent, const char* container, const std::vector<AlarmOutAction>& actions)
@@ -242,12 +281,7 @@ std::vector<const TiXmlElement*> repeatedElements(const TiXmlElement& first, con
 {
     // Peers may send any length: one of 0, which no number of items reaches, and one that asks for the second element a
     // million times.
-    constexpr std::size_t allowed = 64;
-    std::size_t there = 0;
-    for (const TiXmlElement* element = &first; element != nullptr; element = element->NextSiblingElement())
-        ++there;
-    const std::size_t most = std::max(allowed, there);
-
+    const std::size_t most = mostItems(first);
     std::vector<const TiXmlElement*> elements;
     const TiXmlElement* element = &first;
     long long wanted = 0;

@@ -74,7 +74,8 @@ std::vector<AlarmOverlayAction> alarmOverlayActions(const SafePointer<DomainXmlN
 ///
 /// The peers look for the next item behind the first one, whichever they have just read: the second stands in place of
 /// all that follow it, as often as the length says. What ends the list, at the latest, is that there is no second
-/// element, or that as many have been taken as there are elements, or 64 of them where there are less.
+/// element, or that as many have been taken as there are elements, or 64 of them where there are less. A second element
+/// that is much larger than the others may end it sooner, but not below 64.
 std::vector<const TiXmlElement*> repeatedElements(const TiXmlElement& first, const char* length);
 
 /// @}

@@ -174,6 +174,33 @@ TEST(PIRAlarmEventXml, EndsAListWhoseLengthIsNeverReached)
     EXPECT_EQ(70U, codec.getPIRAlarmEvent().size());
 }
 
+// A short text must not ask for a large event a thousand times.
+TEST(PIRAlarmEventXml, EndsAListThatWouldGrowFarBeyondItsText)
+{
+    const std::string event = "<PIRAlarmEvent PIRAlarmEventLEN='1000' />";
+    std::string actions;
+    std::string events;
+    for (int number = 0; number < 998; ++number)
+    {
+        actions += "<AlarmOutAction DeviceId='D' />";
+        events += event;
+    }
+    const std::string large = "<PIRAlarmEvent PIRAlarmEventLEN='1000'><AlarmOutActionList>" + actions +
+                              "</AlarmOutActionList></PIRAlarmEvent>";
+    PIRAlarmEventXml codec;
+    ASSERT_TRUE(reads(codec, event + large + events));
+    EXPECT_LE(64U, codec.getPIRAlarmEvent().size());
+    EXPECT_GE(300U, codec.getPIRAlarmEvent().size());
+
+    PIRAlarmEventXml even;
+    ASSERT_TRUE(reads(even, event + event + events));
+    EXPECT_EQ(1000U, even.getPIRAlarmEvent().size());
+
+    PIRAlarmEventXml first;
+    ASSERT_TRUE(reads(first, large + event + events));
+    EXPECT_EQ(1000U, first.getPIRAlarmEvent().size());
+}
+
 TEST(PIRAlarmEventXml, ReadsBehindWhatTheListHolds)
 {
     PIRAlarmEventXml codec;
