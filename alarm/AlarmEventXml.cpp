@@ -6,8 +6,6 @@
 
 #include "core/Frame.h"
 
-#include <utility>
-
 namespace
 {
 
@@ -52,7 +50,7 @@ bool AlarmEventXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, s
     {
         AlarmEvent event;
         readItem(frame::nodeOf(*item), event);
-        events.push_back(std::move(event));
+        events.push_back(event);
     }
     return true;
 }

@@ -6,8 +6,6 @@
 
 #include "core/Frame.h"
 
-#include <utility>
-
 namespace
 {
 
@@ -98,7 +96,7 @@ bool DetectionAreaXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node
     {
         DetectionArea area;
         readItem(frame::nodeOf(*item), area);
-        areas.push_back(std::move(area));
+        areas.push_back(area);
     }
     return true;
 }

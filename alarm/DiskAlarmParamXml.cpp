@@ -1,5 +1,5 @@
-// <DiskAlarmParam DiskFullAlarmCheckFlag="true" MaxDiskPercent="95" MinDiskPercent="80" DiskErrorAlarmCheckFlag="true"
-// />
+// <DiskAlarmParam DiskFullAlarmCheckFlag="true" MaxDiskPercent="95" MinDiskPercent="80"
+//                 DiskErrorAlarmCheckFlag="true" />
 
 #include "alarm/DiskAlarmParamXml.h"
 

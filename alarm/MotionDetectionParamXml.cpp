@@ -1,6 +1,5 @@
-// <MotionDetectionParam ToUpCheckFlag="true" ToDownCheckFlag="true" ... CheckBlockNum="1" Sensitivity="50"
-// ImageFormatId="1"
-//                       FrameInterval="5">
+// <MotionDetectionParam ToUpCheckFlag="true" ToDownCheckFlag="true" ToLeftCheckFlag="true" ToRightCheckFlag="true"
+//                       AreaMaskFlag="false" CheckBlockNum="1" Sensitivity="50" ImageFormatId="1" FrameInterval="5">
 //     <DetectionAreaList>
 //         <DetectionArea TopX="0" TopY="0" Width="64" High="32" />
 //     </DetectionAreaList>

@@ -6,6 +6,8 @@
 //     </AlarmOutActionList>
 //     <AlarmPTZActionList />
 // </OcclusionDetectionEvent>
+//
+// A document leaves what it does not name, unlike those of all other events: peers keep what they have.
 
 #include "alarm/OcclusionDetectionEventXml.h"
 

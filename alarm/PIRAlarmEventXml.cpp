@@ -26,6 +26,7 @@
 namespace
 {
 
+/// What a document without an interval means; peers read a node without one as 0.
 constexpr std::uint32_t usualInterval = 10;
 
 void writeEvent(TiXmlNode& parent, const PIRAlarmEvent& event, std::size_t count)

@@ -28,6 +28,7 @@ public:
     int getWidth() const { return width_; }
     void setWidth(int width) { width_ = width; }
 
+    /// Its height.
     int getHigh() const { return high_; }
     void setHigh(int high) { high_ = high; }
 
@@ -108,7 +109,7 @@ public:
     void setAlarmArea(const ZTPoint& point) { alarmArea_.getVecPoints().push_back(point); }
     /// @}
 
-    /// The numbers of the objects that broke it, at most 255.
+    /// The numbers of the objects that it is about, at most 255.
     /// @{
     const std::vector<int>& getRelatedTargetIDList() const { return relatedTargetIDList_; }
     std::vector<int>& getRelatedTargetIDList() { return relatedTargetIDList_; }
@@ -500,8 +501,10 @@ public:
     /// Copies @p length bytes; a null pointer or a negative length gives an empty map.
     void setData(const char* data, int length)
     {
-        data_.clear();
-        if (data != nullptr && length > 0) data_.assign(data, static_cast<std::size_t>(length));
+        if (data != nullptr && length > 0)
+            data_.assign(data, static_cast<std::size_t>(length)); // also of the map's own bytes
+        else
+            data_.clear();
     }
     /// @}
 

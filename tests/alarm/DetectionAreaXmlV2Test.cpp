@@ -138,6 +138,15 @@ TEST(DetectionAreaXmlV2, KeepsNoMapOfNothing)
     EXPECT_EQ(0, area.getDataLength());
 }
 
+TEST(DetectionAreaXmlV2, TakesAMapFromItself)
+{
+    DetectionAreaV2 area = sampleDetectionAreaV2();
+    area.setData(area.getData(), 4);
+    expectDetectionAreaV2(sampleDetectionAreaV2(), area);
+    area.setData(area.getData() + 2, 2);
+    EXPECT_EQ("\xFF\x80", std::string(area.getData(), static_cast<std::size_t>(area.getDataLength())));
+}
+
 TEST(DetectionAreaXmlV2, RefusesAnEmptyPointer)
 {
     SafePointer<DomainXmlNode> empty;

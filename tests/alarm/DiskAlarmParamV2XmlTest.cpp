@@ -77,8 +77,7 @@ TEST(DiskAlarmParamV2Xml, PrintsNoTextWhenItIsGivenAnElement)
     codec.setXmlNode(document.FirstChild());
     ASSERT_TRUE(codec.parseXmlNode());
     const std::string lines =
-        "3333333333333333333 m_strDiskAlarmParamV2XmlString= " + std::string() +
-        "\n"
+        "3333333333333333333 m_strDiskAlarmParamV2XmlString= \n"
         "4444444444444444 strInterval= 7\n"
         "bool DiskAlarmParamV2Xml::parseXmlNode() Interval=7,AlarmEnableFlag=0   1111111111111111\n";
 

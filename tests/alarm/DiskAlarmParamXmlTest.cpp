@@ -46,3 +46,15 @@ TEST(DiskAlarmParamXml, ResetsWhatIsMissing)
     ASSERT_TRUE(reads(codec, "<DiskAlarmParam />"));
     expectParam(DiskAlarmParam(), codec.getDiskAlarmParam());
 }
+
+TEST(DiskAlarmParamXml, TellsItsFlagsApart)
+{
+    DiskAlarmParamXml codec;
+    codec.getDiskAlarmParam().setDiskErrorAlarmCheckFlag(true);
+    EXPECT_EQ("<DiskAlarmParam DiskFullAlarmCheckFlag=\"false\" MaxDiskPercent=\"0\" MinDiskPercent=\"0\" "
+              "DiskErrorAlarmCheckFlag=\"true\" />\n",
+              written(codec));
+    DiskAlarmParamXml reader;
+    ASSERT_TRUE(reads(reader, codec.getXmlString()));
+    expectParam(codec.getDiskAlarmParam(), reader.getDiskAlarmParam());
+}

@@ -93,10 +93,9 @@ TEST(NetworkAlarmParamXml, ResetsWhatANodeLacks)
     expectParam(NetworkAlarmParam(), read);
 
     ASSERT_TRUE(NetworkAlarmParamXml().parseXmlString(
-        "<NetworkAlarmParam><NetworkAlarmEventList>text<!-- --><NetworkAlarmEvent /><Other><AlarmOutActionList><Other "
-        "/>"
-        "</AlarmOutActionList><AlarmPTZActionList><Other /></AlarmPTZActionList></Other></NetworkAlarmEventList>"
-        "</NetworkAlarmParam>",
+        "<NetworkAlarmParam><NetworkAlarmEventList>text<!-- --><NetworkAlarmEvent />"
+        "<Other><AlarmOutActionList><Other /></AlarmOutActionList>"
+        "<AlarmPTZActionList><Other /></AlarmPTZActionList></Other></NetworkAlarmEventList></NetworkAlarmParam>",
         read));
     NetworkAlarmParam expected;
     expected.getNetworkAlarmEvent().resize(2);
