@@ -6,6 +6,9 @@
 
 void addCameraDeviceList();
 void addDeviceBaseInfoList();
+void addI3GPolicyParam();
+void addIntelligenceAnalyseAbility();
 void addNTPParam();
 void addSafePointer();
+void addSnapshotPolicy();
 void addVideoStreamRequest();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -16,12 +17,26 @@ inline TiXmlElement& appendElement(TiXmlNode& parent, const char* name)
     return *element;
 }
 
+inline void setFlag(TiXmlElement& element, const char* name, bool value)
+{
+    element.SetAttribute(name, value ? "true" : "false");
+}
+
 inline std::string print(const TiXmlDocument& document)
 {
     TiXmlPrinter printer;
     printer.SetIndent("\t");
     document.Accept(&printer);
     return printer.Str();
+}
+
+/// For the numbers of which TinyXML has no `SetAttribute`, or another text: a float is its shortest one.
+template <class Number>
+void setNumber(TiXmlElement& element, const char* name, Number value)
+{
+    char text[32];
+    *std::to_chars(text, text + sizeof(text) - 1, value).ptr = '\0';
+    element.SetAttribute(name, text);
 }
 
 /// The element named @p root of @p text, in @p document; null without it.
@@ -35,6 +50,18 @@ inline int intOf(const TiXmlElement& element, const char* name, int missing)
 {
     const char* text = element.Attribute(name);
     return text != nullptr ? static_cast<int>(std::strtol(text, nullptr, 10)) : missing;
+}
+
+inline long longOf(const TiXmlElement& element, const char* name, long missing)
+{
+    const char* text = element.Attribute(name);
+    return text != nullptr ? std::strtol(text, nullptr, 10) : missing;
+}
+
+inline float floatOf(const TiXmlElement& element, const char* name, float missing)
+{
+    const char* text = element.Attribute(name);
+    return text != nullptr ? std::strtof(text, nullptr) : missing;
 }
 
 inline bool flagOf(const TiXmlElement& element, const char* name)

@@ -17,6 +17,9 @@ int main(int argc, char** argv)
         addNTPParam();
         addCameraDeviceList();
         addVideoStreamRequest();
+        addI3GPolicyParam();
+        addIntelligenceAnalyseAbility();
+        addSnapshotPolicy();
         addSafePointer();
     }
     catch (const std::exception& error)

@@ -24,7 +24,7 @@ std::string writeFloor(const NTPParam& param)
 {
     TiXmlDocument document;
     TiXmlElement& element = bare::appendElement(document, "NTPParam");
-    element.SetAttribute("NTPEnableFlag", param.getNTPEnableFlag() ? "true" : "false");
+    bare::setFlag(element, "NTPEnableFlag", param.getNTPEnableFlag());
     element.SetAttribute("NTPIp", param.getNTPIp().c_str());
     element.SetAttribute("NTPPort", param.getNTPPort());
     element.SetAttribute("RunTime", param.getNTPRunTime());

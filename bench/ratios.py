@@ -56,7 +56,7 @@ def instructions(program, name):
 
 
 def print_row(name, *cells):
-    print(f"{name:36}" + "".join(f"{cell:>14}" for cell in cells), flush=True)
+    print(f"{name:40}" + "".join(f"{cell:>14}" for cell in cells), flush=True)
 
 
 def print_comparisons(found, program):
