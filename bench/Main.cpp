@@ -4,13 +4,42 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <fstream>
+#include <iostream>
 #include <thread>
+
+namespace
+{
+
+/// Keeps the lines that readers print out of the results: these stay where standard output led to, those go nowhere.
+class QuietReaders
+{
+public:
+    QuietReaders()
+    {
+        if (!results_.is_open() || std::freopen("/dev/null", "w", stdout) == nullptr) return;
+        previous_ = std::cout.rdbuf(results_.rdbuf());
+    }
+    QuietReaders(const QuietReaders&) = delete;
+    QuietReaders& operator=(const QuietReaders&) = delete;
+    ~QuietReaders()
+    {
+        if (previous_ != nullptr) std::cout.rdbuf(previous_);
+    }
+
+private:
+    std::ofstream results_{"/dev/stdout", std::ios::app};
+    std::streambuf* previous_ = nullptr;
+};
+
+} // namespace
 
 int main(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
 
+    const QuietReaders quiet;
     try
     {
         addDeviceBaseInfoList();
