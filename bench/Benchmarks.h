@@ -6,8 +6,11 @@
 
 void addCameraDeviceList();
 void addDeviceBaseInfoList();
+void addDeviceExAbility();
 void addI3GPolicyParam();
 void addIntelligenceAnalyseAbility();
+void addLiveVideoLayoutList();
+void addMotionDetectionEventV2();
 void addNTPParam();
 void addSafePointer();
 void addSnapshotPolicy();

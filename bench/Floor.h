@@ -46,6 +46,13 @@ inline const TiXmlElement* parse(TiXmlDocument& document, const std::string& tex
     return document.Error() ? nullptr : document.FirstChildElement(root);
 }
 
+/// The first element named @p item below the child of @p parent named @p container; null without either.
+inline const TiXmlElement* firstItem(const TiXmlElement& parent, const char* container, const char* item)
+{
+    const TiXmlElement* list = parent.FirstChildElement(container);
+    return list != nullptr ? list->FirstChildElement(item) : nullptr;
+}
+
 inline int intOf(const TiXmlElement& element, const char* name, int missing)
 {
     const char* text = element.Attribute(name);

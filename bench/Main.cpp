@@ -45,6 +45,9 @@ int main(int argc, char** argv)
         addDeviceBaseInfoList();
         addNTPParam();
         addCameraDeviceList();
+        addDeviceExAbility();
+        addLiveVideoLayoutList();
+        addMotionDetectionEventV2();
         addVideoStreamRequest();
         addI3GPolicyParam();
         addIntelligenceAnalyseAbility();
