@@ -12,7 +12,7 @@
 
 #include "alarm/AlarmIOEventXml.h"
 
-#include "alarm/Frame.h"
+#include "alarm/PolicySteps.h"
 #include "alarm/ScheduleTimeParamXml.h"
 #include "core/Frame.h"
 
@@ -152,7 +152,7 @@ bool AlarmIOEventXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node,
         std::puts("AlarmIOEventXml::parseDomainXmlNode get ScheduleTimeParamNode failed ");
     if (!ScheduleTimeParamXml().parseDomainXmlNode(scheduleChild, schedule))
         std::puts("AlarmIOEventXml::parseDomainXmlNode parse ScheduleTimeParamNode failed ");
-    event.setScheduleTimeParam(schedule);
+    event.getScheduleTimeParam() = std::move(schedule);
     return true;
 }
 

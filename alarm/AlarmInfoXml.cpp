@@ -8,6 +8,7 @@
 #include "core/Frame.h"
 
 #include <cstdio>
+#include <utility>
 
 AlarmInfoXml::AlarmInfoXml() = default;
 
@@ -58,7 +59,7 @@ bool AlarmInfoXml::readElement(const TiXmlElement& element, AlarmInfo& info)
     {
         AlarmData data;
         if (!AlarmDataXml::readElement(*child, data)) return false;
-        info.setAlarmData(data);
+        info.getAlarmData() = std::move(data);
     }
     return true;
 }
@@ -92,7 +93,7 @@ bool AlarmInfoXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, Al
     AlarmData data;
     if (!AlarmDataXml().parseDomainXmlNode(child, data))
         std::puts("AlarmInfoXml::parseDomainXmlNode parse AlarmDataNode failed ");
-    info.setAlarmData(data);
+    info.getAlarmData() = std::move(data);
     return true;
 }
 

@@ -10,6 +10,7 @@
 #include "media/OSDInfoXml.h"
 
 #include <cstdio>
+#include <utility>
 
 AlarmOverlayActionXml::AlarmOverlayActionXml() = default;
 
@@ -60,7 +61,7 @@ bool AlarmOverlayActionXml::readElement(const TiXmlElement& element, AlarmOverla
     {
         OSDInfo info;
         if (!OSDInfoXml::readElement(*child, info)) return false;
-        action.setOSDInfo(info);
+        action.getOSDInfo() = std::move(info);
     }
     return true;
 }
@@ -96,7 +97,7 @@ bool AlarmOverlayActionXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>&
         std::puts("AlarmOverlayActionXml::parseDomainXmlNode get OSDInfoNode failed");
     if (!OSDInfoXml().parseDomainXmlNode(child, info))
         std::puts("AlarmOverlayActionXml::parseDomainXmlNode parse OSDInfoNode failed");
-    action.setOSDInfo(info);
+    action.getOSDInfo() = std::move(info);
     return true;
 }
 

@@ -9,7 +9,7 @@
 
 #include "alarm/CameraMaskEventXml.h"
 
-#include "alarm/Frame.h"
+#include "alarm/PolicySteps.h"
 #include "core/Frame.h"
 
 CameraMaskEventXml::CameraMaskEventXml() = default;

@@ -9,7 +9,7 @@
 
 #include "alarm/DiskAlarmParamV2Xml.h"
 
-#include "alarm/Frame.h"
+#include "alarm/PolicySteps.h"
 #include "core/Frame.h"
 
 #include <cstdio>

@@ -11,10 +11,12 @@
 
 #include "alarm/MotionDetectionEventXml.h"
 
-#include "alarm/Frame.h"
 #include "alarm/MotionDetectionParamXml.h"
+#include "alarm/PolicySteps.h"
 #include "alarm/ScheduleTimeParamXml.h"
 #include "core/Frame.h"
+
+#include <utility>
 
 MotionDetectionEventXml::MotionDetectionEventXml() = default;
 
@@ -75,7 +77,7 @@ bool MotionDetectionEventXml::readElement(const TiXmlElement& element, MotionDet
     {
         MotionDetectionParam param;
         if (!MotionDetectionParamXml::readElement(*paramChild, param)) return false;
-        event.setMotionDetectionParam(param);
+        event.getMotionDetectionParam() = std::move(param);
     }
 
     const TiXmlElement* scheduleChild = element.FirstChildElement("ScheduleTimeParam");
@@ -83,7 +85,7 @@ bool MotionDetectionEventXml::readElement(const TiXmlElement& element, MotionDet
     {
         ScheduleTimeParam schedule;
         if (!ScheduleTimeParamXml::readElement(*scheduleChild, schedule)) return false;
-        event.setScheduleTimeParam(schedule);
+        event.getScheduleTimeParam() = std::move(schedule);
     }
 
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;

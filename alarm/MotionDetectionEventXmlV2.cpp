@@ -15,8 +15,8 @@
 
 #include "alarm/MotionDetectionEventXmlV2.h"
 
-#include "alarm/Frame.h"
 #include "alarm/MotionDetectionParamXmlV2.h"
+#include "alarm/PolicySteps.h"
 #include "alarm/ScheduleTimeParamXml.h"
 #include "core/Frame.h"
 
@@ -59,7 +59,7 @@ bool readEvent(const TiXmlElement& element, MotionDetectionEventV2& event)
     {
         MotionDetectionParamV2 param;
         if (!MotionDetectionParamXmlV2::readElement(*paramChild, param)) return false;
-        event.setMotionDetectionParam(param);
+        event.getMotionDetectionParam() = std::move(param);
     }
 
     const TiXmlElement* scheduleChild = element.FirstChildElement("ScheduleTimeParam");
@@ -67,7 +67,7 @@ bool readEvent(const TiXmlElement& element, MotionDetectionEventV2& event)
     {
         ScheduleTimeParam schedule;
         if (!ScheduleTimeParamXml::readElement(*scheduleChild, schedule)) return false;
-        event.setScheduleTimeParam(schedule);
+        event.getScheduleTimeParam() = std::move(schedule);
     }
 
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
@@ -215,14 +215,14 @@ bool MotionDetectionEventXmlV2::parseDomainXmlNode(const SafePointer<DomainXmlNo
     node->getConfigNode("MotionDetectionParamV2", paramChild);
     if (!parseDomainMotionDetectionParamV2XmlNode(paramChild, param))
         std::puts("MotionDetectionEventXmlV2  parseDomainMotionDetectionParamV2XmlNode failed ");
-    event.setMotionDetectionParam(param);
+    event.getMotionDetectionParam() = std::move(param);
 
     SafePointer<DomainXmlNode> scheduleChild;
     ScheduleTimeParam schedule;
     node->getConfigNode("ScheduleTimeParam", scheduleChild);
     if (!parseDomainScheduleTimeParamXmlNode(scheduleChild, schedule))
         std::puts("MotionDetectionEventXmlV2  parseDomainScheduleTimeParamXmlNode failed ");
-    event.setScheduleTimeParam(schedule);
+    event.getScheduleTimeParam() = std::move(schedule);
 
     // The lines of the lists tell how it went, and so are printed in any case.
     SafePointer<DomainXmlNode> outList;
@@ -230,7 +230,7 @@ bool MotionDetectionEventXmlV2::parseDomainXmlNode(const SafePointer<DomainXmlNo
     node->getConfigNode("AlarmOutActionList", outList);
     const bool outsRead = parseDomainAlarmOutActionListXmlNode(outList, outs);
     std::printf("MotionDetectionEventXmlV2::parseDomainAlarmOutActionListXmlNode boolRet = %d \n", outsRead ? 1 : 0);
-    event.setAlarmOutAction(outs);
+    event.getAlarmOutAction() = std::move(outs);
 
     SafePointer<DomainXmlNode> recordList;
     std::vector<AlarmRecordAction> records;
@@ -238,14 +238,14 @@ bool MotionDetectionEventXmlV2::parseDomainXmlNode(const SafePointer<DomainXmlNo
     const bool recordsRead = parseDomainAlarmRecordActionListXmlNode(recordList, records);
     std::printf("MotionDetectionEventXmlV2::parseDomainAlarmRecordActionListXmlNode boolRet = %d \n",
                 recordsRead ? 1 : 0);
-    event.setAlarmRecordAction(records);
+    event.getAlarmRecordAction() = std::move(records);
 
     SafePointer<DomainXmlNode> ptzList;
     std::vector<AlarmPTZAction> ptzs;
     node->getConfigNode("AlarmPTZActionList", ptzList);
     const bool ptzsRead = parseDomainAlarmPTZActionListXmlNode(ptzList, ptzs);
     std::printf("MotionDetectionEventXmlV2::parseDomainAlarmPTZActionListXmlNode boolRet = %d \n", ptzsRead ? 1 : 0);
-    event.setAlarmPTZAction(ptzs);
+    event.getAlarmPTZAction() = std::move(ptzs);
 
     SafePointer<DomainXmlNode> overlayList;
     std::vector<AlarmOverlayAction> overlays;
@@ -253,7 +253,7 @@ bool MotionDetectionEventXmlV2::parseDomainXmlNode(const SafePointer<DomainXmlNo
     const bool overlaysRead = parseDomainAlarmOverlayActionListXmlNode(overlayList, overlays);
     std::printf("MotionDetectionEventXmlV2::parseDomainAlarmOverlayActionListXmlNode boolRet = %d \n",
                 overlaysRead ? 1 : 0);
-    event.setAlarmOverlayAction(overlays);
+    event.getAlarmOverlayAction() = std::move(overlays);
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include "core/Frame.h"
 
 #include <cstdio>
+#include <utility>
 
 MotionDetectionParamXmlV2::MotionDetectionParamXmlV2() = default;
 
@@ -56,7 +57,7 @@ bool MotionDetectionParamXmlV2::readElement(const TiXmlElement& element, MotionD
     {
         DetectionAreaV2 area;
         if (!DetectionAreaXmlV2::readElement(*child, area)) return false;
-        param.setDetectionArea(area);
+        param.getDetectionArea() = std::move(area);
     }
     return true;
 }
@@ -88,7 +89,7 @@ bool MotionDetectionParamXmlV2::parseDomainXmlNode(const SafePointer<DomainXmlNo
         std::puts(" MotionDetectionParamXmlV2::parseDomainXmlNode node = NODE_DETECTION_AREA failed ");
     else if (!DetectionAreaXmlV2().parseDomainXmlNode(child, area))
         std::puts("MotionDetectionParamXmlV2   DetectionAreaV2::parseDomainXmlNode  failed ");
-    param.setDetectionArea(area);
+    param.getDetectionArea() = std::move(area);
     return true;
 }
 

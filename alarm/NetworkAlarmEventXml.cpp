@@ -7,7 +7,7 @@
 
 #include "alarm/NetworkAlarmEventXml.h"
 
-#include "alarm/Frame.h"
+#include "alarm/PolicySteps.h"
 #include "core/Frame.h"
 
 #include <cstdio>

@@ -196,7 +196,7 @@ bool NetworkAlarmParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& 
             events.push_back(std::move(event));
         }
     }
-    param.setNetworkAlarmEvent(events);
+    param.getNetworkAlarmEvent() = std::move(events);
     return true;
 }
 

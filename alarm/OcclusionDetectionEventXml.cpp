@@ -11,8 +11,8 @@
 
 #include "alarm/OcclusionDetectionEventXml.h"
 
-#include "alarm/Frame.h"
 #include "alarm/OcclusionDetectionParamXml.h"
+#include "alarm/PolicySteps.h"
 #include "alarm/ScheduleTimeParamXml.h"
 #include "core/Frame.h"
 
@@ -51,13 +51,13 @@ void readItem(const SafePointer<DomainXmlNode>& node, OcclusionDetectionEvent& e
     OcclusionDetectionParam param;
     if (node->getConfigNode("OcclusionDetectionParam", paramChild))
         OcclusionDetectionParamXml().parseDomainXmlNode(paramChild, param);
-    event.setOcclusionDetectionParam(param);
+    event.getOcclusionDetectionParam() = std::move(param);
 
     SafePointer<DomainXmlNode> scheduleChild;
     ScheduleTimeParam schedule;
     if (node->getConfigNode("ScheduleTimeParam", scheduleChild))
         ScheduleTimeParamXml().parseDomainXmlNode(scheduleChild, schedule);
-    event.setScheduleTimeParam(schedule);
+    event.getScheduleTimeParam() = std::move(schedule);
 
     event.setAlarmOutAction(frame::alarmOutActions(node, "AlarmOutActionList"));
     event.setAlarmPTZAction(frame::alarmPTZActions(node, "AlarmPTZActionList"));
@@ -119,7 +119,7 @@ bool OcclusionDetectionEventXml::readElement(const TiXmlElement& element, Occlus
     {
         OcclusionDetectionParam param;
         if (!OcclusionDetectionParamXml::readElement(*paramChild, param)) return false;
-        event.setOcclusionDetectionParam(param);
+        event.getOcclusionDetectionParam() = std::move(param);
     }
 
     const TiXmlElement* scheduleChild = element.FirstChildElement("ScheduleTimeParam");
@@ -127,7 +127,7 @@ bool OcclusionDetectionEventXml::readElement(const TiXmlElement& element, Occlus
     {
         ScheduleTimeParam schedule;
         if (!ScheduleTimeParamXml::readElement(*scheduleChild, schedule)) return false;
-        event.setScheduleTimeParam(schedule);
+        event.getScheduleTimeParam() = std::move(schedule);
     }
 
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;

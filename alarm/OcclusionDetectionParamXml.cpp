@@ -9,6 +9,7 @@
 #include "alarm/DetectionAreaXml.h"
 #include "core/Frame.h"
 
+#include <utility>
 #include <vector>
 
 OcclusionDetectionParamXml::OcclusionDetectionParamXml() = default;
@@ -85,7 +86,7 @@ bool OcclusionDetectionParamXml::parseDomainXmlNode(const SafePointer<DomainXmlN
     SafePointer<DomainXmlNode> list;
     std::vector<DetectionArea> areas;
     if (node->getConfigNode("DetectionAreaList", list)) DetectionAreaXml().parseDomainXmlNode(list, areas);
-    param.setDetectionArea(areas);
+    param.getDetectionArea() = std::move(areas);
     return true;
 }
 

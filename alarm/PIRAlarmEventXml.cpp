@@ -14,7 +14,7 @@
 
 #include "alarm/PIRAlarmEventXml.h"
 
-#include "alarm/Frame.h"
+#include "alarm/PolicySteps.h"
 #include "alarm/ScheduleTimeParamXml.h"
 #include "core/Frame.h"
 
@@ -62,7 +62,7 @@ bool readEvent(const TiXmlElement& element, PIRAlarmEvent& event)
     {
         ScheduleTimeParam schedule;
         if (!ScheduleTimeParamXml::readElement(*scheduleChild, schedule)) return false;
-        event.setScheduleTimeParam(schedule);
+        event.getScheduleTimeParam() = std::move(schedule);
     }
 
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
@@ -180,7 +180,7 @@ bool PIRAlarmEventXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node
     ScheduleTimeParam schedule;
     if (node->getConfigNode("ScheduleTimeParam", scheduleChild))
         ScheduleTimeParamXml().parseDomainXmlNode(scheduleChild, schedule);
-    event.setScheduleTimeParam(schedule);
+    event.getScheduleTimeParam() = std::move(schedule);
 
     event.setAlarmOutAction(frame::alarmOutActions(node, "AlarmOutActionList"));
     event.setAlarmRecordAction(frame::alarmRecordActions(node, "AlarmRecordActionList"));

@@ -157,7 +157,7 @@ bool ScheduleTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& 
         std::puts("ScheduleTimeParamXml::parseDomainXmlNode get ScheduleWeekListNode falied ");
     else if (!readWeeks(weekList, weeks))
         std::puts("ScheduleTimeParamXml::parseDomainXmlNode get ScheduleWeekNodeList falied ");
-    schedule.setScheduleWeekList(weeks);
+    schedule.getScheduleWeekList() = std::move(weeks);
 
     SafePointer<DomainXmlNode> segmentList;
     std::vector<ScheduleTimeSegment> segments;
@@ -165,7 +165,7 @@ bool ScheduleTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& 
         std::puts("ScheduleTimeParamXml::parseDomainXmlNode get ScheduleTimeSegmentListNode falied ");
     else if (!readSegments(segmentList, segments))
         std::puts("ScheduleTimeParamXml::parseDomainXmlNode get ScheduleTimeSegmentNodeList falied ");
-    schedule.setScheduleTimeSegmentList(segments);
+    schedule.getScheduleTimeSegmentList() = std::move(segments);
     return true;
 }
 

@@ -10,6 +10,7 @@
 #include "core/Frame.h"
 
 #include <cstdio>
+#include <utility>
 #include <vector>
 
 namespace
@@ -108,7 +109,7 @@ bool ScheduleWeekXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node,
         std::puts("ScheduleWeekXml::parseDomainXmlNode get ScheduleTimeListNode failed ");
     else if (!readTimes(list, times))
         std::puts("ScheduleWeekXml::parseDomainXmlNode get ScheduleTimeNodeList failed ");
-    week.setScheduleTimeList(times);
+    week.getScheduleTimeList() = std::move(times);
     return true;
 }
 

@@ -208,11 +208,11 @@ bool VideoLoseDetectionEventListXml::parseVideoLoseDetectionEventFromDomainXmlNo
     SafePointer<DomainXmlNode> outList;
     std::vector<AlarmOutAction> outs;
     if (node->getConfigNode("AlarmOutActionList", outList)) parseAlarmOutActionListFromDomainXmlNode(outList, outs);
-    event.setAlarmOutAction(outs);
+    event.getAlarmOutAction() = std::move(outs);
 
     SafePointer<DomainXmlNode> ptzList;
     std::vector<AlarmPTZAction> ptzs;
     if (node->getConfigNode("AlarmPTZActionList", ptzList)) parseAlarmPTZActionListFromDomainXmlNode(ptzList, ptzs);
-    event.setAlarmPTZAction(ptzs);
+    event.getAlarmPTZAction() = std::move(ptzs);
     return true;
 }

@@ -20,7 +20,7 @@
 #include "alarm/AlarmOverlayActionXml.h"
 #include "alarm/AlarmPTZActionXml.h"
 #include "alarm/AlarmRecordActionXml.h"
-#include "alarm/Frame.h"
+#include "alarm/PolicySteps.h"
 #include "alarm/ScheduleTimeParamXml.h"
 #include "core/Frame.h"
 

@@ -521,7 +521,7 @@ void parseLibCommonNode(const Node& root, IntelligenceAnalyseAbility& abilities)
                   "exist! ");
     for (const Node& item : items)
         list.push_back(parseLib(item));
-    abilities.setLibCommonAbilityList(list);
+    abilities.getLibCommonAbilityList() = std::move(list);
 }
 
 void parseMotionDetectionNode(const Node& functions, IntelligenceAnalyseAbility& abilities)

@@ -4,7 +4,7 @@
 
 #include "commands/RecordStreamResponseXml.h"
 
-#include "commands/AddressElement.h"
+#include "commands/AddressSteps.h"
 #include "core/Frame.h"
 
 RecordStreamResponseXml::RecordStreamResponseXml() = default;

@@ -4,7 +4,7 @@
 
 #include "commands/StreamURIRequestXml.h"
 
-#include "commands/AddressElement.h"
+#include "commands/AddressSteps.h"
 #include "core/Frame.h"
 
 StreamURIRequestXml::StreamURIRequestXml() = default;

@@ -7,7 +7,7 @@
 
 #include "commands/VideoStreamResponseXml.h"
 
-#include "commands/AddressElement.h"
+#include "commands/AddressSteps.h"
 #include "core/Frame.h"
 #include "media/AVStreamParamXml.h"
 

@@ -91,7 +91,7 @@ bool AVStreamAbilityXml::readElement(const TiXmlElement& element, AVStreamAbilit
         attribute.setStreamMode(1);
     else if (!AVStreamAttributeAbilityXml::readElement(*child, attribute))
         return false;
-    ability.setAVStreamAttributeAbility(attribute);
+    ability.getAVStreamAttributeAbility() = std::move(attribute);
 
     // Of the texts for true, "true" is the only one that the peers take here.
     const TiXmlElement* support = element.FirstChildElement("SupportROI");
@@ -101,7 +101,7 @@ bool AVStreamAbilityXml::readElement(const TiXmlElement& element, AVStreamAbilit
     ROIAbility regions;
     child = elementBehind(support);
     if (child != nullptr && !ROIAbilityXml::readElement(*child, regions)) return false;
-    ability.setROIAbility(regions);
+    ability.getROIAbility() = std::move(regions);
     return true;
 }
 
@@ -141,7 +141,7 @@ bool AVStreamAbilityXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& no
         if (!encodingCodec.parseDomainXmlNode(frame::nodeOf(*item), encoding)) return false;
         encodings.push_back(std::move(encoding));
     }
-    ability.setStreamEncodeAbilityList(encodings);
+    ability.getStreamEncodeAbilityList() = std::move(encodings);
 
     // Where a child is missing its node is empty, and the record stays fresh.
     SafePointer<DomainXmlNode> id;
@@ -151,7 +151,7 @@ bool AVStreamAbilityXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& no
     AVStreamAttributeAbility attribute;
     node->getConfigNode("AVStreamAttributeAbility", attributeNode);
     AVStreamAttributeAbilityXml().parseDomainXmlNode(attributeNode, attribute);
-    ability.setAVStreamAttributeAbility(attribute);
+    ability.getAVStreamAttributeAbility() = std::move(attribute);
 
     SafePointer<DomainXmlNode> support;
     ability.setSupportROI(node->getConfigNode("SupportROI", support) && frame::flagProperty(support, "value", false));
@@ -160,7 +160,7 @@ bool AVStreamAbilityXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& no
     ROIAbility regions;
     node->getConfigNode("ROIAbility", regionsNode);
     ROIAbilityXml().parseDomainXmlNode(regionsNode, regions);
-    ability.setROIAbility(regions);
+    ability.getROIAbility() = std::move(regions);
     return true;
 }
 

@@ -76,7 +76,7 @@ bool CameraExAbilityXml::readElement(const TiXmlElement& element, CameraExAbilit
     {
         VideoResolution resolution;
         if (!VideoResolutionXml::readElement(*child, resolution)) return false;
-        ability.setMaxVideoResolution(resolution);
+        ability.getMaxVideoResolution() = std::move(resolution);
     }
 
     child = element.FirstChildElement("BlindAbility");

@@ -105,7 +105,7 @@ bool DeviceBaseInfoXml::readElement(const TiXmlElement& element, DeviceBaseInfo&
     {
         Version version;
         if (!VersionXml::readElement(*child, version)) return false;
-        info.setVersion(version);
+        info.getVersion() = std::move(version);
     }
 
     const TiXmlElement* item = frame::firstItem(element, "CameraDevcieList", "CameraDevice");

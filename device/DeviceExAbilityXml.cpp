@@ -23,6 +23,7 @@
 #include "device/WifiAbilityParamXml.h"
 #include "device/WorkingModeAbilityXml.h"
 
+#include <utility>
 #include <vector>
 
 namespace
@@ -108,7 +109,7 @@ bool DeviceExAbilityXml::readElement(const TiXmlElement& element, DeviceExAbilit
     {
         PTZAbility ptz;
         if (!PTZAbilityXml::readElement(*child, ptz)) return false;
-        ability.setPTZAbility(ptz);
+        ability.getPTZAbility() = std::move(ptz);
     }
 
     child = element.FirstChildElement("VideoExAbility");
@@ -116,7 +117,7 @@ bool DeviceExAbilityXml::readElement(const TiXmlElement& element, DeviceExAbilit
     {
         VideoExAbility video;
         if (!VideoExAbilityXml::readElement(*child, video)) return false;
-        ability.setVideoExAbility(video);
+        ability.getVideoExAbility() = std::move(video);
     }
 
     child = element.FirstChildElement("AudioExAbility");
@@ -124,7 +125,7 @@ bool DeviceExAbilityXml::readElement(const TiXmlElement& element, DeviceExAbilit
     {
         AudioExAbility audio;
         if (!AudioExAbilityXml::readElement(*child, audio)) return false;
-        ability.setAudioExAbility(audio);
+        ability.getAudioExAbility() = std::move(audio);
     }
 
     child = element.FirstChildElement("FileSystemAbilityList");
@@ -132,7 +133,7 @@ bool DeviceExAbilityXml::readElement(const TiXmlElement& element, DeviceExAbilit
     {
         std::vector<FileSystemAbility> disks;
         if (!FileSystemAbilityXml::readElement(*child, disks)) return false;
-        ability.setFileSystemAbilityList(disks);
+        ability.getFileSystemAbilityList() = std::move(disks);
     }
 
     child = element.FirstChildElement("WorkingModeAbility");
@@ -146,7 +147,7 @@ bool DeviceExAbilityXml::readElement(const TiXmlElement& element, DeviceExAbilit
     {
         std::vector<IPCNetworkCardAbility> cards;
         if (!IPCNetworkAbilityXml::readElement(*child, cards)) return false;
-        ability.setNetworkAbility(cards);
+        ability.getNetworkAbility() = std::move(cards);
     }
 
     child = element.FirstChildElement("PIRAlarmAbility");
@@ -162,7 +163,7 @@ bool DeviceExAbilityXml::readElement(const TiXmlElement& element, DeviceExAbilit
     {
         WifiAbilityParam wifi;
         if (!WifiAbilityParamXml::readElement(*child, wifi)) return false;
-        ability.setWifiAbilityParam(wifi);
+        ability.getWifiAbilityParam() = std::move(wifi);
     }
     return true;
 }

@@ -38,6 +38,6 @@ bool DeviceMcuInfoXml::parseXmlString(const std::string& text, DeviceMcuInfo& in
         mcu.setArmAppVer(frame::textOf(*item, "ArmAppVer", ""));
         mcus.push_back(std::move(mcu));
     }
-    info.setMcuInfoList(mcus);
+    info.getMcuInfoList() = std::move(mcus);
     return true;
 }

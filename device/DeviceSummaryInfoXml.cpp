@@ -10,6 +10,8 @@
 #include "core/Frame.h"
 #include "core/VersionXml.h"
 
+#include <utility>
+
 DeviceSummaryInfoXml::DeviceSummaryInfoXml() = default;
 
 DeviceSummaryInfoXml::~DeviceSummaryInfoXml() = default;
@@ -101,7 +103,7 @@ bool DeviceSummaryInfoXml::readElement(const TiXmlElement& element, DeviceSummar
     {
         Version version;
         if (!VersionXml::readElement(*child, version)) return false;
-        info.setVersion(version);
+        info.getVersion() = std::move(version);
     }
     return true;
 }

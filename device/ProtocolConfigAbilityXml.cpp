@@ -63,7 +63,7 @@ bool ProtocolConfigAbilityXml::parse(const SafePointer<DomainXmlNode>& node, Pro
         if (!parseProtocolType(frame::nodeOf(*item), type)) return false;
         types.push_back(std::move(type));
     }
-    ability.setProtocolTypeList(types);
+    ability.getProtocolTypeList() = std::move(types);
     return true;
 }
 

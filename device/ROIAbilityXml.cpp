@@ -7,6 +7,7 @@
 #include "core/Frame.h"
 
 #include <map>
+#include <utility>
 
 ROIAbilityXml::ROIAbilityXml() = default;
 
@@ -93,7 +94,7 @@ bool ROIAbilityXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, R
         const SafePointer<DomainXmlNode> entry = frame::nodeOf(*item);
         map[frame::intProperty(entry, "Level", 0)] = frame::intProperty(entry, "QP", 0);
     }
-    ability.setLevelQPMap(map);
+    ability.getLevelQPMap() = std::move(map);
     return true;
 }
 

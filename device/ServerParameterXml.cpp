@@ -7,6 +7,8 @@
 #include "core/Frame.h"
 #include "device/DevicePortXml.h"
 
+#include <utility>
+
 ServerParameterXml::ServerParameterXml() = default;
 
 ServerParameterXml::~ServerParameterXml() = default;
@@ -47,7 +49,7 @@ bool ServerParameterXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& no
     DevicePort port;
     node->getConfigNode("DevicePort", child);
     DevicePortXml().parseDomainXmlNode(child, port);
-    server.setDevicePort(port);
+    server.getDevicePort() = std::move(port);
     return true;
 }
 

@@ -11,6 +11,8 @@
 #include "device/VideoResolutionXml.h"
 #include "device/VideoSystemXml.h"
 
+#include <utility>
+
 SourceResolutionAbilityXml::SourceResolutionAbilityXml() = default;
 
 SourceResolutionAbilityXml::~SourceResolutionAbilityXml() = default;
@@ -53,7 +55,7 @@ bool SourceResolutionAbilityXml::readElement(const TiXmlElement& element, Source
     {
         VideoSystem system;
         if (!VideoSystemXml::readElement(*child, system)) return false;
-        ability.setVideoSystem(system);
+        ability.getVideoSystem() = std::move(system);
     }
 
     return VideoResolutionXml::readList(element, "VideoResolutionList", ability.getSourceResolutionList());

@@ -99,7 +99,7 @@ bool StreamEncodeAbilityXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>
         if (!codec.parseDomainXmlNode(frame::nodeOf(*item), resolution)) return false;
         resolutions.push_back(std::move(resolution));
     }
-    ability.setVideoResolutionList(resolutions);
+    ability.getVideoResolutionList() = std::move(resolutions);
     return true;
 }
 

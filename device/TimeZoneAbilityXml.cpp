@@ -44,6 +44,6 @@ bool TimeZoneAbilityXml::parseXmlString(const std::string& text, TimeZoneAbility
         type.setDSTTimeZoneAbbreviation(frame::textProperty(child, "DSTName", ""));
         types.push_back(std::move(type));
     }
-    ability.setTimeZoneTypeList(types);
+    ability.getTimeZoneTypeList() = std::move(types);
     return true;
 }

@@ -12,6 +12,8 @@
 #include "device/AbilitySteps.h"
 #include "device/VideoResolutionXml.h"
 
+#include <utility>
+
 VideoResolutionAbilityXml::VideoResolutionAbilityXml() = default;
 
 VideoResolutionAbilityXml::~VideoResolutionAbilityXml() = default;
@@ -74,7 +76,7 @@ bool VideoResolutionAbilityXml::readElement(const TiXmlElement& element, VideoRe
     {
         VideoResolution resolution;
         if (!VideoResolutionXml::readElement(*child, resolution)) return false;
-        ability.setVideoResolution(resolution);
+        ability.getVideoResolution() = std::move(resolution);
     }
     return true;
 }

@@ -63,7 +63,7 @@ bool VideoDisplayConfigureXml::parseDomainXmlNode(const SafePointer<DomainXmlNod
         device.setDescription(frame::textProperty(item, "description", ""));
         devices.push_back(std::move(device));
     }
-    display.setVideoDisplayDeviceInfoList(devices);
+    display.getVideoDisplayDeviceInfoList() = std::move(devices);
     return true;
 }
 

@@ -177,7 +177,7 @@ bool BlindAreaParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& nod
         if (!rectangleCodec.parseDomainXmlNode(frame::nodeOf(*item), rectangle)) return false;
         rectangles.push_back(rectangle);
     }
-    area.setAreaParam(rectangles);
+    area.getAreaParam() = std::move(rectangles);
 
     MosaicParam mosaic;
     if (node->getConfigNode("MosaicParam", child)) MosaicParamXml().parseDomainXmlNode(child, mosaic);

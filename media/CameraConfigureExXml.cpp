@@ -33,6 +33,7 @@
 #include "media/VideoCaptureConfigureXml.h"
 #include "snapshot/SnapShotConfigXml.h"
 
+#include <utility>
 #include <vector>
 
 CameraConfigureExXml::CameraConfigureExXml() = default;
@@ -101,7 +102,7 @@ bool CameraConfigureExXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& 
     node->getConfigNode("VideoDisplay", displayNode);
     VideoDisplayConfigure display;
     VideoDisplayConfigureXml().parseDomainXmlNode(displayNode, display);
-    configure.setVideoDisplayConfigure(display);
+    configure.getVideoDisplayConfigure() = std::move(display);
 
     SafePointer<DomainXmlNode> blindNode;
     node->getConfigNode("BlindAbility", blindNode);
@@ -119,25 +120,25 @@ bool CameraConfigureExXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& 
     node->getConfigNode("VideoCapture", capturesNode);
     std::vector<VideoCaptureConfigure> captures;
     VideoCaptureConfigureXml().parseDomainXmlNode(capturesNode, captures);
-    configure.setVideoCaptureConfigureList(captures);
+    configure.getVideoCaptureConfigureList() = std::move(captures);
 
     SafePointer<DomainXmlNode> streamsNode;
     node->getConfigNode("StreamConfig", streamsNode);
     std::vector<StreamConfigure> streams;
     StreamConfigureXml().parseDomainXmlNode(streamsNode, streams);
-    configure.setStreamConfigureList(streams);
+    configure.getStreamConfigureList() = std::move(streams);
 
     SafePointer<DomainXmlNode> regionsNode;
     node->getConfigNode("ROIConfig", regionsNode);
     std::vector<ROIConfigure> regions;
     ROIConfigureXml().parseDomainXmlNode(regionsNode, regions);
-    configure.setROIConfigureList(regions);
+    configure.getROIConfigureList() = std::move(regions);
 
     SafePointer<DomainXmlNode> svcStreamsNode;
     node->getConfigNode("SVCStreamConfigure", svcStreamsNode);
     std::vector<SVCStreamConfigure> svcStreams;
     SVCStreamConfigureXml().parseDomainXmlNode(svcStreamsNode, svcStreams);
-    configure.setSVCStreamConfigureList(svcStreams);
+    configure.getSVCStreamConfigureList() = std::move(svcStreams);
     return true;
 }
 

@@ -163,7 +163,7 @@ bool DeviceAVStreamParamXml::parseDeviceAVStreamParam(const SafePointer<DomainXm
     std::vector<AVStreamParam> streams;
     if (!node->getConfigNode("AVStreamParamList", container) || !parseAVStreamParamList(container, streams))
         return false;
-    device.setAVStreamParamList(streams);
+    device.getAVStreamParamList() = std::move(streams);
     return true;
 }
 

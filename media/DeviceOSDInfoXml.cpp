@@ -14,6 +14,7 @@
 #include "media/VideoOSDInfoExXml.h"
 
 #include <cstdio>
+#include <utility>
 #include <vector>
 
 DeviceOSDInfoXml::DeviceOSDInfoXml() = default;
@@ -73,7 +74,7 @@ bool DeviceOSDInfoXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node
     std::vector<VideoOSDInfoEx> videos;
     if (!VideoOSDInfoExXml().parseDomainXmlNode(videosNode, videos))
         std::puts("DeviceOSDInfoXml::parseDomainXmlNode CONST_NODE_OSD_FONT_LIST failed 2222222222");
-    info.setVideoOSDInfoExList(videos);
+    info.getVideoOSDInfoExList() = std::move(videos);
     return true;
 }
 

@@ -46,7 +46,7 @@ bool DeviceROIInfoParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>&
     SafePointer<DomainXmlNode> child;
     CameraInfo camera;
     if (node->getConfigNode("CameraInfo", child)) CameraInfoXml().parseDomainXmlNode(child, camera);
-    regions.setCameraInfo(camera);
+    regions.getCameraInfo() = std::move(camera);
 
     const ROIInfoParamXml regionCodec;
     std::vector<ROIInfoParam> list;
@@ -57,7 +57,7 @@ bool DeviceROIInfoParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>&
         if (!regionCodec.parseDomainXmlNode(frame::nodeOf(*item), region)) return false;
         list.push_back(std::move(region));
     }
-    regions.setROIInfoParamList(list);
+    regions.getROIInfoParamList() = std::move(list);
     return true;
 }
 

@@ -64,7 +64,7 @@ bool DeviceVideoEncodeQualityXml::parseDomainXmlNode(const SafePointer<DomainXml
         if (!streamCodec.parseDomainXmlNode(frame::nodeOf(*item), stream)) return false;
         streams.push_back(stream);
     }
-    quality.setVideoEncodeQualityList(streams);
+    quality.getVideoEncodeQualityList() = std::move(streams);
     return true;
 }
 

@@ -65,7 +65,7 @@ bool UserDefineParamXml::readElement(const TiXmlElement& element, std::vector<Us
         {
             std::vector<UserDefineParamItem> values;
             if (!UserDefineParamItemXml::readElement(*child, values)) return false;
-            param.setParamItemList(values);
+            param.getParamItemList() = std::move(values);
         }
         params.push_back(std::move(param));
     }
@@ -109,7 +109,7 @@ bool UserDefineParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& no
         {
             std::vector<UserDefineParamItem> values;
             if (!valuesCodec.parseDomainXmlNode(child, values)) return false;
-            param.setParamItemList(values);
+            param.getParamItemList() = std::move(values);
         }
         params.push_back(std::move(param));
     }

@@ -140,7 +140,7 @@ bool CMSRegisterInfoParamXml::getCMSRegisterServerParam(CMSRegisterInfoParam& pa
         server.setRegisterSrvPort(frame::intOf(*item, "SrvPort", 0));
         servers.push_back(std::move(server));
     }
-    param.setCMSRegisterServerParam(servers);
+    param.getCMSRegisterServerParam() = std::move(servers);
     return true;
 }
 
@@ -158,7 +158,7 @@ bool CMSRegisterInfoParamXml::getCMSRegisterInfoDeviceParam(CMSRegisterInfoParam
         device.setDeviceRegisterID(frame::textOf(*item, "DeviceRegisterId", ""));
         devices.push_back(std::move(device));
     }
-    param.setCMSDeviceRegisterInfoParam(devices);
+    param.getCMSDeviceRegisterInfoParam() = std::move(devices);
     return true;
 }
 
@@ -177,7 +177,7 @@ bool CMSRegisterInfoParamXml::getCMSRegisterInfoCameraParam(CMSRegisterInfoParam
         camera.setCameraRegisterID(frame::textOf(*item, "CameraRegisterId", ""));
         cameras.push_back(std::move(camera));
     }
-    param.setCMSCameraRegisterInfoParam(cameras);
+    param.getCMSCameraRegisterInfoParam() = std::move(cameras);
     return true;
 }
 
@@ -196,6 +196,6 @@ bool CMSRegisterInfoParamXml::getCMSExternConfigParam(CMSRegisterInfoParam& para
         config.setExternConfigValue(frame::textOf(*item, "ExternConfigValue", ""));
         configs.push_back(std::move(config));
     }
-    param.setCMSExternConfigParam(configs);
+    param.getCMSExternConfigParam() = std::move(configs);
     return true;
 }

@@ -17,6 +17,8 @@
 #include "network/CMSExternConfigParamXml.h"
 #include "network/CMSRegisterServerParamXml.h"
 
+#include <utility>
+
 CMSRegisterParamXml::CMSRegisterParamXml() = default;
 
 CMSRegisterParamXml::~CMSRegisterParamXml() = default;
@@ -51,7 +53,7 @@ bool CMSRegisterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& n
     {
         CMSDeviceRegisterInfoParam device;
         if (!CMSDeviceRegisterInfoParamXml().parseDomainXmlNode(deviceNode, device)) return false;
-        param.setCMSDeviceRegisterInfoParam(device);
+        param.getCMSDeviceRegisterInfoParam() = std::move(device);
     }
 
     SafePointer<DomainXmlNode> configNode;
@@ -59,7 +61,7 @@ bool CMSRegisterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& n
     {
         CMSExternConfigParam config;
         if (!CMSExternConfigParamXml().parseDomainXmlNode(configNode, config)) return false;
-        param.setCMSExternConfigParam(config);
+        param.getCMSExternConfigParam() = std::move(config);
     }
 
     SafePointer<DomainXmlNode> serverNode;
@@ -67,7 +69,7 @@ bool CMSRegisterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& n
     {
         CMSRegisterServerParam server;
         if (!CMSRegisterServerParamXml().parseDomainXmlNode(serverNode, server)) return false;
-        param.setCMSRegisterServerParam(server);
+        param.getCMSRegisterServerParam() = std::move(server);
     }
 
     SafePointer<DomainXmlNode> list;

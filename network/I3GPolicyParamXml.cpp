@@ -59,7 +59,7 @@ bool I3GPolicyParamXml::readElement(const TiXmlElement& element, I3GPolicyParam&
     {
         I3GMessageConnectPolicyParam messagePolicy;
         if (!I3GMessageConnectPolicyParamXml::readElement(*messageChild, messagePolicy)) return false;
-        policy.set3GMessageConnectPolicyParam(messagePolicy);
+        policy.get3GMessageConnectPolicyParam() = std::move(messagePolicy);
     }
 
     const TiXmlElement* timeChild = element.FirstChildElement("I3GTimeConnectPolicyParam");
@@ -67,7 +67,7 @@ bool I3GPolicyParamXml::readElement(const TiXmlElement& element, I3GPolicyParam&
     {
         I3GTimeConnectPolicyParam timePolicy;
         if (!I3GTimeConnectPolicyParamXml::readElement(*timeChild, timePolicy)) return false;
-        policy.set3GTimeConnectPolicyParam(timePolicy);
+        policy.get3GTimeConnectPolicyParam() = std::move(timePolicy);
     }
     return true;
 }
@@ -109,13 +109,13 @@ bool I3GPolicyParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& nod
     SafePointer<DomainXmlNode> messageNode;
     if (node->getConfigNode("I3GMessageConnectPolicyParam", messageNode))
         I3GMessageConnectPolicyParamXml().parseDomainXmlNode(messageNode, messagePolicy);
-    policy.set3GMessageConnectPolicyParam(messagePolicy);
+    policy.get3GMessageConnectPolicyParam() = std::move(messagePolicy);
 
     I3GTimeConnectPolicyParam timePolicy;
     SafePointer<DomainXmlNode> timeNode;
     if (node->getConfigNode("I3GTimeConnectPolicyParam", timeNode))
         I3GTimeConnectPolicyParamXml().parseDomainXmlNode(timeNode, timePolicy);
-    policy.set3GTimeConnectPolicyParam(timePolicy);
+    policy.get3GTimeConnectPolicyParam() = std::move(timePolicy);
     return true;
 }
 

@@ -58,7 +58,7 @@ bool I3GTimeConnectPolicyParamXml::readElement(const TiXmlElement& element, I3GT
     {
         ScheduleTimeParam schedule;
         if (!ScheduleTimeParamXml::readElement(*child, schedule)) return false;
-        policy.setScheduleTimeParam(schedule);
+        policy.getScheduleTimeParam() = std::move(schedule);
     }
     return true;
 }
@@ -100,7 +100,7 @@ bool I3GTimeConnectPolicyParamXml::parseDomainXmlNode(const SafePointer<DomainXm
     SafePointer<DomainXmlNode> scheduleNode;
     if (node->getConfigNode("ScheduleTimeParam", scheduleNode))
         ScheduleTimeParamXml().parseDomainXmlNode(scheduleNode, schedule);
-    policy.setScheduleTimeParam(schedule);
+    policy.getScheduleTimeParam() = std::move(schedule);
     return true;
 }
 

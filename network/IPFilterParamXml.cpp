@@ -45,7 +45,7 @@ bool IPFilterParamXml::parseXmlString(const std::string& text, IPFilterParam& pa
     SafePointer<DomainXmlNode> list;
     std::vector<IPAddrSegment> segments;
     if (!root->getConfigNode("IPAddrSegmentList", list) || !parseIPAddrList(list, segments)) return false;
-    param.setIPAddrList(segments);
+    param.getIPAddrList() = std::move(segments);
     return true;
 }
 

@@ -85,7 +85,7 @@ bool SMTPParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, SM
             recipients.emplace_back(address);
         }
     }
-    param.setRecipientEmailAddressList(recipients);
+    param.getRecipientEmailAddressList() = std::move(recipients);
     return true;
 }
 

@@ -11,6 +11,7 @@
 #include "core/Frame.h"
 #include "network/RebootTimeXml.h"
 
+#include <utility>
 #include <vector>
 
 TimeRebootParamXml::TimeRebootParamXml() = default;
@@ -36,7 +37,7 @@ bool TimeRebootParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& no
     SafePointer<DomainXmlNode> list;
     std::vector<RebootTime> times;
     if (node->getConfigNode("RebootTimeList", list)) RebootTimeXml().parseDomainXmlNode(list, times);
-    param.setRebootTimeList(times);
+    param.getRebootTimeList() = std::move(times);
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include "core/Frame.h"
 #include "network/RebootTimeXml.h"
 
+#include <utility>
 #include <vector>
 
 TimeRebootXml::TimeRebootXml() = default;
@@ -35,6 +36,6 @@ bool TimeRebootXml::parseXmlString(const std::string& text, TimeRebootParam& par
         if (!RebootTimeXml::readElement(*item, time)) return false;
         times.push_back(time);
     }
-    param.setRebootTimeList(times);
+    param.getRebootTimeList() = std::move(times);
     return true;
 }

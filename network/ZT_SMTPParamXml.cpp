@@ -86,7 +86,7 @@ bool ZT_SMTPParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node,
             recipients.emplace_back(address);
         }
     }
-    param.setRecipientEmailAddressList(recipients);
+    param.getRecipientEmailAddressList() = std::move(recipients);
     return true;
 }
 

@@ -13,6 +13,7 @@
 #include "ptz/ExternInterfaceXml.h"
 
 #include <cstdio>
+#include <utility>
 
 CashRegistersParamXml::CashRegistersParamXml() = default;
 
@@ -79,7 +80,7 @@ bool CashRegistersParamXml::readElement(const TiXmlElement& element, CashRegiste
     {
         ExternInterface interface;
         if (!ExternInterfaceXml::readElement(*child, interface)) return false;
-        param.setExternInterface(interface);
+        param.getExternInterface() = std::move(interface);
     }
     return true;
 }
@@ -123,14 +124,14 @@ bool CashRegistersParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>&
     {
         std::puts("CashRegistersParamXml::parseDomainXmlNode node = NODE_CAMERA_LIST failed ");
     }
-    param.setOSDCameraList(cameraIds);
+    param.getOSDCameraList() = std::move(cameraIds);
 
     SafePointer<DomainXmlNode> child;
     ExternInterface interface;
     if (!node->getConfigNode("ExternInterface", child))
         std::puts("CashRegistersParamXml::parseDomainXmlNode node = NODE_EXTERN_INTERFACE failed ");
     ExternInterfaceXml().parseDomainXmlNode(child, interface);
-    param.setExternInterface(interface);
+    param.getExternInterface() = std::move(interface);
     return true;
 }
 

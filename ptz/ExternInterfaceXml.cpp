@@ -8,6 +8,7 @@
 #include "ptz/RS485DeviceXml.h"
 
 #include <cstdio>
+#include <utility>
 
 namespace
 {
@@ -62,7 +63,7 @@ bool ExternInterfaceXml::readElement(const TiXmlElement& element, ExternInterfac
     {
         RS485Device port;
         if (!RS485DeviceXml::readElement(*child, port)) return false;
-        interface.setRS485Device(port);
+        interface.getRS485Device() = std::move(port);
     }
     return true;
 }
@@ -90,7 +91,7 @@ bool ExternInterfaceXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& no
     if (!node->getConfigNode("RS485Device", child))
         std::puts("ExternInterfaceXml::parseDomainXmlNode node = NODE_RS485_DEVICE failed ");
     RS485DeviceXml().parseDomainXmlNode(child, port);
-    interface.setRS485Device(port);
+    interface.getRS485Device() = std::move(port);
     return true;
 }
 

@@ -196,7 +196,7 @@ bool readTexts(const Node& root, PTZAbilityParam& ability)
         text.setY(y);
         texts.push_back(text);
     }
-    ability.setPTZOSDParamList(texts);
+    ability.getPTZOSDParamList() = std::move(texts);
     return true;
 }
 
@@ -247,7 +247,7 @@ bool readTable(const Node& parent, PTZAbilityParam& ability)
         magnify.setMagnify(magnification);
         table.getMagnifyPTSpeedParamList().push_back(std::move(magnify));
     }
-    ability.setPTSpeedTable(table);
+    ability.getPTSpeedTable() = std::move(table);
     return true;
 }
 

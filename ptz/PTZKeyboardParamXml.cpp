@@ -10,6 +10,7 @@
 #include "ptz/ExternInterfaceXml.h"
 
 #include <cstdio>
+#include <utility>
 
 PTZKeyboardParamXml::PTZKeyboardParamXml() = default;
 
@@ -56,7 +57,7 @@ bool PTZKeyboardParamXml::readElement(const TiXmlElement& element, PTZKeyboardPa
     {
         ExternInterface interface;
         if (!ExternInterfaceXml::readElement(*child, interface)) return false;
-        keyboard.setExternInterface(interface);
+        keyboard.getExternInterface() = std::move(interface);
     }
     return true;
 }
@@ -82,7 +83,7 @@ bool PTZKeyboardParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& n
     if (!node->getConfigNode("ExternInterface", child))
         std::puts("PTZKeyboardParamXml::parseDomainXmlNode node = NODE_EXTERN_INTERFACE failed ");
     ExternInterfaceXml().parseDomainXmlNode(child, interface);
-    keyboard.setExternInterface(interface);
+    keyboard.getExternInterface() = std::move(interface);
     return true;
 }
 

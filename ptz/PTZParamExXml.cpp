@@ -9,6 +9,8 @@
 #include "core/Frame.h"
 #include "ptz/PTZParamXml.h"
 
+#include <utility>
+
 PTZParamExXml::PTZParamExXml() = default;
 
 PTZParamExXml::~PTZParamExXml() = default;
@@ -32,7 +34,7 @@ bool PTZParamExXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, P
     std::vector<PTZParam> heads;
     node->getConfigNode("PTZParamList", child);
     PTZParamXml().parseDomainXmlNode(child, heads);
-    param.setPTZParamList(heads);
+    param.getPTZParamList() = std::move(heads);
 
     param.setInternalPTZId(
         frame::intProperty(node, "InternalPTZId", 0, "PTZParamExXml::parseDomainXmlNode ATTR_INTERNAL_PTZ_ID failed "));

@@ -13,6 +13,7 @@
 #include "ptz/ExternInterfaceXml.h"
 
 #include <cstdio>
+#include <utility>
 
 namespace
 {
@@ -80,7 +81,7 @@ bool ScanRegistersParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>&
 
     ExternInterface interface;
     ExternInterfaceXml().parseDomainXmlNode(child, interface);
-    param.setExternInterface(interface);
+    param.getExternInterface() = std::move(interface);
     return true;
 }
 

@@ -12,6 +12,7 @@
 #include "alarm/AlarmEventXml.h"
 #include "core/Frame.h"
 
+#include <utility>
 #include <vector>
 
 AlarmRecordPolicyXml::AlarmRecordPolicyXml() = default;
@@ -109,7 +110,7 @@ bool AlarmRecordPolicyXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& 
     {
         std::vector<AlarmEvent> events;
         if (!AlarmEventXml().parseDomainXmlNode(list, events)) return false;
-        policy.setAlarmEventList(events);
+        policy.getAlarmEventList() = std::move(events);
     }
     return true;
 }

@@ -53,7 +53,7 @@ bool readPolicy(const TiXmlElement& element, RecordPolicy& policy)
     {
         AlarmRecordPolicy alarm;
         if (!AlarmRecordPolicyXml::readElement(*child, alarm)) return false;
-        policy.setAlarmRecordPolicy(alarm);
+        policy.getAlarmRecordPolicy() = std::move(alarm);
     }
 
     child = element.FirstChildElement("ScheduleRecordPolicy");
@@ -61,7 +61,7 @@ bool readPolicy(const TiXmlElement& element, RecordPolicy& policy)
     {
         ScheduleRecordPolicy schedule;
         if (!ScheduleRecordPolicyXml::readElement(*child, schedule)) return false;
-        policy.setScheduleRecordPolicy(schedule);
+        policy.getScheduleRecordPolicy() = std::move(schedule);
     }
     return true;
 }
@@ -206,11 +206,11 @@ bool RecordPolicyXml::parseDomainRecordPolicyXmlNode(const SafePointer<DomainXml
     AlarmRecordPolicy alarm;
     if (!AlarmRecordPolicyXml().parseDomainXmlNode(alarmNode, alarm))
         std::puts("AlarmRecordPolicyXml::parseDomainXmlNode node = AlarmRecordPolicy failed ");
-    policy.setAlarmRecordPolicy(alarm);
+    policy.getAlarmRecordPolicy() = std::move(alarm);
 
     ScheduleRecordPolicy schedule;
     if (!ScheduleRecordPolicyXml().parseDomainXmlNode(scheduleNode, schedule))
         std::puts("AlarmRecordPolicyXml::parseDomainXmlNode node = ScheduleRecordPolicy failed ");
-    policy.setScheduleRecordPolicy(schedule);
+    policy.getScheduleRecordPolicy() = std::move(schedule);
     return true;
 }

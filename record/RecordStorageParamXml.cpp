@@ -13,6 +13,8 @@
 #include "record/SpacePolicyXml.h"
 #include "record/WritePolicyXml.h"
 
+#include <utility>
+
 RecordStorageParamXml::RecordStorageParamXml() = default;
 
 RecordStorageParamXml::~RecordStorageParamXml() = default;
@@ -59,7 +61,7 @@ bool RecordStorageParamXml::readElement(const TiXmlElement& element, RecordStora
     {
         WritePolicy writePolicy;
         if (!WritePolicyXml::readElement(*child, writePolicy)) return false;
-        param.setWritePolicy(writePolicy);
+        param.getWritePolicy() = std::move(writePolicy);
     }
 
     child = element.FirstChildElement("SavePolicy");

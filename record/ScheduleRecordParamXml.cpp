@@ -10,6 +10,8 @@
 #include "core/Frame.h"
 #include "record/ScheduleRecordTimeParamXml.h"
 
+#include <utility>
+
 ScheduleRecordParamXml::ScheduleRecordParamXml() = default;
 
 ScheduleRecordParamXml::~ScheduleRecordParamXml() = default;
@@ -63,7 +65,7 @@ bool ScheduleRecordParamXml::readElement(const TiXmlElement& element, ScheduleRe
     {
         ScheduleTimeParam schedule;
         if (!ScheduleRecordTimeParamXml::readElement(*child, schedule)) return false;
-        param.setScheduleTimeParam(schedule);
+        param.getScheduleTimeParam() = std::move(schedule);
     }
     return true;
 }

@@ -10,6 +10,7 @@
 #include "record/ScheduleRecordTimeParamXml.h"
 
 #include <cstdio>
+#include <utility>
 
 ScheduleRecordPolicyXml::ScheduleRecordPolicyXml() = default;
 
@@ -59,7 +60,7 @@ bool ScheduleRecordPolicyXml::readElement(const TiXmlElement& element, ScheduleR
     {
         ScheduleTimeParam schedule;
         if (!ScheduleRecordTimeParamXml::readElement(*child, schedule)) return false;
-        policy.setScheduleTimeParam(schedule);
+        policy.getScheduleTimeParam() = std::move(schedule);
     }
     return true;
 }
@@ -95,7 +96,7 @@ bool ScheduleRecordPolicyXml::parseDomainXmlNode(const SafePointer<DomainXmlNode
     ScheduleTimeParam schedule;
     if (!ScheduleRecordTimeParamXml().parseDomainXmlNode(scheduleNode, schedule))
         std::puts("ScheduleRecordPolicyXml::parseDomainXmlNode  node = ScheduleTimeParam failed");
-    policy.setScheduleTimeParam(schedule);
+    policy.getScheduleTimeParam() = std::move(schedule);
     return true;
 }
 

@@ -129,7 +129,7 @@ bool ScheduleRecordTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlN
         std::puts("ScheduleRecordTimeParamXml::parseDomainXmlNode  node = NODE_SCHEDULE_WEEK_LIST failed");
     else if (!readWeeks(weekList, weeks))
         return false;
-    schedule.setScheduleWeekList(weeks);
+    schedule.getScheduleWeekList() = std::move(weeks);
 
     SafePointer<DomainXmlNode> segmentList;
     std::vector<ScheduleTimeSegment> segments;
@@ -137,7 +137,7 @@ bool ScheduleRecordTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlN
         std::puts("ScheduleRecordTimeParamXml::parseDomainXmlNode  node = NODE_SCHEDULE_TIME_SEGMENT_LIST failed");
     else if (!readSegments(segmentList, segments))
         return false;
-    schedule.setScheduleTimeSegmentList(segments);
+    schedule.getScheduleTimeSegmentList() = std::move(segments);
     return true;
 }
 

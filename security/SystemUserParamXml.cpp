@@ -4,6 +4,8 @@
 
 #include "core/Frame.h"
 
+#include <utility>
+
 SystemUserParamXml::SystemUserParamXml() = default;
 
 SystemUserParamXml::~SystemUserParamXml() = default;
@@ -32,7 +34,7 @@ bool SystemUserParamXml::parseXmlString(const std::string& text, SystemUserParam
     SystemUser user;
     user.setUserName(userName);
     user.setPassword(password);
-    param.setSystemUser(user);
+    param.getSystemUser() = std::move(user);
     param.setNewPassword(newPassword);
     return true;
 }

@@ -13,6 +13,7 @@
 #include "core/Frame.h"
 #include "snapshot/SnapshotParameterXml.h"
 
+#include <utility>
 #include <vector>
 
 AlarmSnapshotPolicyXml::AlarmSnapshotPolicyXml() = default;
@@ -75,7 +76,7 @@ bool AlarmSnapshotPolicyXml::readElement(const TiXmlElement& element, AlarmSnaps
     {
         SnapshotParameter parameter;
         if (!SnapshotParameterXml::readElement(*child, parameter)) return false;
-        policy.setSnapshotParameter(parameter);
+        policy.getSnapshotParameter() = std::move(parameter);
     }
 
     const TiXmlElement* item = frame::firstItem(element, "AlarmEventList", "AlarmEvent");
@@ -120,14 +121,14 @@ bool AlarmSnapshotPolicyXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>
     node->getConfigNode("SnapshotParameter", parameterNode);
     SnapshotParameter parameter;
     SnapshotParameterXml().parseDomainXmlNode(parameterNode, parameter);
-    policy.setSnapshotParameter(parameter);
+    policy.getSnapshotParameter() = std::move(parameter);
 
     SafePointer<DomainXmlNode> list;
     if (node->getConfigNode("AlarmEventList", list))
     {
         std::vector<AlarmEvent> events;
         AlarmEventXml().parseDomainXmlNode(list, events);
-        policy.setAlarmEventList(events);
+        policy.getAlarmEventList() = std::move(events);
     }
     return true;
 }

@@ -7,6 +7,8 @@
 #include "core/Frame.h"
 #include "snapshot/SnapshotParameterXml.h"
 
+#include <utility>
+
 ManualSnapshotParameterXml::ManualSnapshotParameterXml() = default;
 
 ManualSnapshotParameterXml::~ManualSnapshotParameterXml() = default;
@@ -52,7 +54,7 @@ bool ManualSnapshotParameterXml::readElement(const TiXmlElement& element, Manual
     {
         SnapshotParameter pictures;
         if (!SnapshotParameterXml::readElement(*child, pictures)) return false;
-        parameter.setSnapshotParameter(pictures);
+        parameter.getSnapshotParameter() = std::move(pictures);
     }
     return true;
 }

@@ -11,6 +11,8 @@
 #include "record/ScheduleRecordTimeParamXml.h"
 #include "snapshot/SnapshotParameterXml.h"
 
+#include <utility>
+
 ScheduleSnapshotPolicyXml::ScheduleSnapshotPolicyXml() = default;
 
 ScheduleSnapshotPolicyXml::~ScheduleSnapshotPolicyXml() = default;
@@ -59,7 +61,7 @@ bool ScheduleSnapshotPolicyXml::readElement(const TiXmlElement& element, Schedul
     {
         SnapshotParameter parameter;
         if (!SnapshotParameterXml::readElement(*child, parameter)) return false;
-        policy.setSnapshotParameter(parameter);
+        policy.getSnapshotParameter() = std::move(parameter);
     }
 
     child = element.FirstChildElement("ScheduleRecordTimeParam");
@@ -67,7 +69,7 @@ bool ScheduleSnapshotPolicyXml::readElement(const TiXmlElement& element, Schedul
     {
         ScheduleTimeParam schedule;
         if (!ScheduleRecordTimeParamXml::readElement(*child, schedule)) return false;
-        policy.setScheduleTimeParam(schedule);
+        policy.getScheduleTimeParam() = std::move(schedule);
     }
     return true;
 }
@@ -98,13 +100,13 @@ bool ScheduleSnapshotPolicyXml::parseDomainXmlNode(const SafePointer<DomainXmlNo
     node->getConfigNode("SnapshotParameter", parameterNode);
     SnapshotParameter parameter;
     SnapshotParameterXml().parseDomainXmlNode(parameterNode, parameter);
-    policy.setSnapshotParameter(parameter);
+    policy.getSnapshotParameter() = std::move(parameter);
 
     SafePointer<DomainXmlNode> scheduleNode;
     node->getConfigNode("ScheduleRecordTimeParam", scheduleNode);
     ScheduleTimeParam schedule;
     ScheduleRecordTimeParamXml().parseDomainXmlNode(scheduleNode, schedule);
-    policy.setScheduleTimeParam(schedule);
+    policy.getScheduleTimeParam() = std::move(schedule);
     return true;
 }
 

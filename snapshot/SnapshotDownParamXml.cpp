@@ -5,6 +5,8 @@
 #include "core/Conversions.h"
 #include "core/Frame.h"
 
+#include <utility>
+
 SnapshotDownParamXml::SnapshotDownParamXml() = default;
 
 SnapshotDownParamXml::~SnapshotDownParamXml() = default;
@@ -47,7 +49,7 @@ bool SnapshotDownParamXml::parseXmlString(const std::string& text, SnapshotDownP
     param.setCameraID(cameraId);
     param.setSnapTime(time);
     param.setSnapIndex(index);
-    param.setSnapAlarmType(type);
+    param.getSnapAlarmType() = std::move(type);
     return true;
 }
 

@@ -10,6 +10,8 @@
 #include "core/TimeStructXml.h"
 #include "snapshot/SnapshotSteps.h"
 
+#include <utility>
+
 SnapshotFileExXml::SnapshotFileExXml() = default;
 
 SnapshotFileExXml::~SnapshotFileExXml() = default;
@@ -69,7 +71,7 @@ bool SnapshotFileExXml::readElement(const TiXmlElement& element, SnapshotFileEx&
         AlarmExType type;
         type.setMajorType(frame::intOf(*child, "MajorAlarmType", 0));
         type.setMinorType(frame::intOf(*child, "MinorAlarmType", 0));
-        file.setSnapshotAlarmExType(type);
+        file.getSnapshotAlarmExType() = std::move(type);
     }
     return true;
 }

@@ -51,7 +51,7 @@ bool SnapshotParamExXml::parse(const SafePointer<DomainXmlNode>& node, SnapshotP
         if (!parseSnapshotStorageParam(frame::nodeOf(*item), storage)) return false;
         storages.push_back(std::move(storage));
     }
-    param.setSnapshotStorageParamList(storages);
+    param.getSnapshotStorageParamList() = std::move(storages);
     return true;
 }
 

@@ -9,6 +9,8 @@
 #include "core/Frame.h"
 #include "device/VideoResolutionXml.h"
 
+#include <utility>
+
 SnapshotParameterXml::SnapshotParameterXml() = default;
 
 SnapshotParameterXml::~SnapshotParameterXml() = default;
@@ -60,7 +62,7 @@ bool SnapshotParameterXml::readElement(const TiXmlElement& element, SnapshotPara
     {
         VideoResolution resolution;
         if (!VideoResolutionXml::readElement(*child, resolution)) return false;
-        parameter.setVideoResolution(resolution);
+        parameter.getVideoResolution() = std::move(resolution);
     }
     return true;
 }
@@ -93,7 +95,7 @@ bool SnapshotParameterXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& 
     node->getConfigNode("VideoResolution", resolutionNode);
     VideoResolution resolution;
     VideoResolutionXml().parseDomainXmlNode(resolutionNode, resolution);
-    parameter.setVideoResolution(resolution);
+    parameter.getVideoResolution() = std::move(resolution);
     return true;
 }
 

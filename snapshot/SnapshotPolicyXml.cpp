@@ -45,7 +45,7 @@ bool readPolicy(const TiXmlElement& element, SnapshotPolicy& policy)
     {
         AlarmSnapshotPolicy alarm;
         if (!AlarmSnapshotPolicyXml::readElement(*child, alarm)) return false;
-        policy.setAlarmSnapshotPolicy(alarm);
+        policy.getAlarmSnapshotPolicy() = std::move(alarm);
     }
 
     child = element.FirstChildElement("ScheduleSnapshotPolicy");
@@ -53,7 +53,7 @@ bool readPolicy(const TiXmlElement& element, SnapshotPolicy& policy)
     {
         ScheduleSnapshotPolicy schedule;
         if (!ScheduleSnapshotPolicyXml::readElement(*child, schedule)) return false;
-        policy.setScheduleSnapshotPolicy(schedule);
+        policy.getScheduleSnapshotPolicy() = std::move(schedule);
     }
 
     child = element.FirstChildElement("UploadPolicy");
@@ -61,7 +61,7 @@ bool readPolicy(const TiXmlElement& element, SnapshotPolicy& policy)
     {
         UploadPolicy upload;
         if (!UploadPolicyXml::readElement(*child, upload)) return false;
-        policy.setUploadPolicy(upload);
+        policy.getUploadPolicy() = std::move(upload);
     }
     return true;
 }
@@ -94,19 +94,19 @@ void readPolicy(const SafePointer<DomainXmlNode>& node, SnapshotPolicy& policy)
     node->getConfigNode("AlarmSnapshotPolicy", alarmNode);
     AlarmSnapshotPolicy alarm;
     AlarmSnapshotPolicyXml().parseDomainXmlNode(alarmNode, alarm);
-    policy.setAlarmSnapshotPolicy(alarm);
+    policy.getAlarmSnapshotPolicy() = std::move(alarm);
 
     SafePointer<DomainXmlNode> scheduleNode;
     node->getConfigNode("ScheduleSnapshotPolicy", scheduleNode);
     ScheduleSnapshotPolicy schedule;
     ScheduleSnapshotPolicyXml().parseDomainXmlNode(scheduleNode, schedule);
-    policy.setScheduleSnapshotPolicy(schedule);
+    policy.getScheduleSnapshotPolicy() = std::move(schedule);
 
     SafePointer<DomainXmlNode> uploadNode;
     node->getConfigNode("UploadPolicy", uploadNode);
     UploadPolicy upload;
     UploadPolicyXml().parseDomainXmlNode(uploadNode, upload);
-    policy.setUploadPolicy(upload);
+    policy.getUploadPolicy() = std::move(upload);
 }
 
 } // namespace

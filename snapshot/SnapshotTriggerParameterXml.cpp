@@ -11,6 +11,7 @@
 
 #include "core/Frame.h"
 
+#include <utility>
 #include <vector>
 
 SnapshotTriggerParameterXml::SnapshotTriggerParameterXml() = default;
@@ -42,7 +43,7 @@ bool SnapshotTriggerParameterXml::readElement(const TiXmlElement& element, Snaps
     const TiXmlElement* item = frame::firstItem(element, "AlarmInId");
     for (; item != nullptr; item = item->NextSiblingElement("AlarmInId"))
         inputs.push_back(frame::intOf(*item, "ID", 0));
-    trigger.setAlarmInIdList(inputs);
+    trigger.getAlarmInIdList() = std::move(inputs);
     return true;
 }
 

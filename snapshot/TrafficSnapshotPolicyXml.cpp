@@ -59,7 +59,7 @@ bool TrafficSnapshotPolicyXml::parse(const SafePointer<DomainXmlNode>& node, Tra
         if (!parseSnapshotTriggerParameter(frame::nodeOf(*item), trigger)) return false;
         triggers.push_back(std::move(trigger));
     }
-    policy.setSnapshotTriggerParameterList(triggers);
+    policy.getSnapshotTriggerParameterList() = std::move(triggers);
     return true;
 }
 

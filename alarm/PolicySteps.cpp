@@ -1,4 +1,4 @@
-#include "alarm/Frame.h"
+#include "alarm/PolicySteps.h"
 
 #include "alarm/AlarmOutActionXml.h"
 #include "alarm/AlarmOverlayActionXml.h"

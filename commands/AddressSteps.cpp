@@ -1,6 +1,6 @@
 // <StreamAddr IP="192.0.2.17" Port="9000" IPProtoVar="4" />
 
-#include "commands/AddressElement.h"
+#include "commands/AddressSteps.h"
 
 #include "core/Frame.h"
 
