@@ -15,6 +15,7 @@
 
 #include "alarm/ScheduleTimeParamXml.h"
 
+#include "alarm/ScheduleSteps.h"
 #include "alarm/ScheduleTimeSegmentXml.h"
 #include "alarm/ScheduleWeekXml.h"
 #include "core/Frame.h"
@@ -22,35 +23,6 @@
 #include <cstdio>
 #include <utility>
 #include <vector>
-
-namespace
-{
-
-bool readWeeks(const SafePointer<DomainXmlNode>& list, std::vector<ScheduleWeek>& weeks)
-{
-    TiXmlElement* item = frame::firstChild(list);
-    for (; item != nullptr; item = item->NextSiblingElement())
-    {
-        ScheduleWeek week;
-        if (!ScheduleWeekXml().parseDomainXmlNode(frame::nodeOf(*item), week)) return false;
-        weeks.push_back(std::move(week));
-    }
-    return true;
-}
-
-bool readSegments(const SafePointer<DomainXmlNode>& list, std::vector<ScheduleTimeSegment>& segments)
-{
-    TiXmlElement* item = frame::firstChild(list);
-    for (; item != nullptr; item = item->NextSiblingElement())
-    {
-        ScheduleTimeSegment segment;
-        if (!ScheduleTimeSegmentXml().parseDomainXmlNode(frame::nodeOf(*item), segment)) return false;
-        segments.push_back(segment);
-    }
-    return true;
-}
-
-} // namespace
 
 ScheduleTimeParamXml::ScheduleTimeParamXml() = default;
 
@@ -126,20 +98,7 @@ bool ScheduleTimeParamXml::createDomainXmlNode(const ScheduleTimeParam& schedule
     node->setProperty("DeviceId", schedule.getDeviceId());
     node->setProperty("CameraId", schedule.getCameraId());
 
-    SafePointer<DomainXmlNode> weeks = frame::appendNode(node, "ScheduleWeekList");
-    for (const ScheduleWeek& week : schedule.getScheduleWeekList())
-    {
-        SafePointer<DomainXmlNode> item = frame::appendNode(weeks, "ScheduleWeek");
-        if (!ScheduleWeekXml().createDomainXmlNode(week, item)) return false;
-    }
-
-    SafePointer<DomainXmlNode> segments = frame::appendNode(node, "ScheduleTimeSegmentList");
-    for (const ScheduleTimeSegment& segment : schedule.getScheduleTimeSegmentList())
-    {
-        SafePointer<DomainXmlNode> item = frame::appendNode(segments, "ScheduleTimeSegment");
-        if (!ScheduleTimeSegmentXml().createDomainXmlNode(segment, item)) return false;
-    }
-    return true;
+    return frame::appendSchedule(node, schedule);
 }
 
 bool ScheduleTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, ScheduleTimeParam& schedule) const
@@ -155,7 +114,7 @@ bool ScheduleTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& 
     std::vector<ScheduleWeek> weeks;
     if (!node->getConfigNode("ScheduleWeekList", weekList))
         std::puts("ScheduleTimeParamXml::parseDomainXmlNode get ScheduleWeekListNode falied ");
-    else if (!readWeeks(weekList, weeks))
+    else if (!frame::readWeeks(weekList, weeks))
         std::puts("ScheduleTimeParamXml::parseDomainXmlNode get ScheduleWeekNodeList falied ");
     schedule.getScheduleWeekList() = std::move(weeks);
 
@@ -163,7 +122,7 @@ bool ScheduleTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& 
     std::vector<ScheduleTimeSegment> segments;
     if (!node->getConfigNode("ScheduleTimeSegmentList", segmentList))
         std::puts("ScheduleTimeParamXml::parseDomainXmlNode get ScheduleTimeSegmentListNode falied ");
-    else if (!readSegments(segmentList, segments))
+    else if (!frame::readSegments(segmentList, segments))
         std::puts("ScheduleTimeParamXml::parseDomainXmlNode get ScheduleTimeSegmentNodeList falied ");
     schedule.getScheduleTimeSegmentList() = std::move(segments);
     return true;

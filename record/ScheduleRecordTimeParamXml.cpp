@@ -11,43 +11,13 @@
 
 #include "record/ScheduleRecordTimeParamXml.h"
 
+#include "alarm/ScheduleSteps.h"
 #include "alarm/ScheduleTimeParamXml.h"
-#include "alarm/ScheduleTimeSegmentXml.h"
-#include "alarm/ScheduleWeekXml.h"
 #include "core/Frame.h"
 
 #include <cstdio>
 #include <utility>
 #include <vector>
-
-namespace
-{
-
-bool readWeeks(const SafePointer<DomainXmlNode>& list, std::vector<ScheduleWeek>& weeks)
-{
-    TiXmlElement* item = frame::firstChild(list);
-    for (; item != nullptr; item = item->NextSiblingElement())
-    {
-        ScheduleWeek week;
-        if (!ScheduleWeekXml().parseDomainXmlNode(frame::nodeOf(*item), week)) return false;
-        weeks.push_back(std::move(week));
-    }
-    return true;
-}
-
-bool readSegments(const SafePointer<DomainXmlNode>& list, std::vector<ScheduleTimeSegment>& segments)
-{
-    TiXmlElement* item = frame::firstChild(list);
-    for (; item != nullptr; item = item->NextSiblingElement())
-    {
-        ScheduleTimeSegment segment;
-        if (!ScheduleTimeSegmentXml().parseDomainXmlNode(frame::nodeOf(*item), segment)) return false;
-        segments.push_back(segment);
-    }
-    return true;
-}
-
-} // namespace
 
 ScheduleRecordTimeParamXml::ScheduleRecordTimeParamXml() = default;
 
@@ -97,20 +67,7 @@ bool ScheduleRecordTimeParamXml::createDomainXmlNode(const ScheduleTimeParam& sc
     node->setProperty("CameraId", schedule.getCameraId());
     node->setProperty("DeviceId", schedule.getDeviceId());
 
-    SafePointer<DomainXmlNode> weeks = frame::appendNode(node, "ScheduleWeekList");
-    for (const ScheduleWeek& week : schedule.getScheduleWeekList())
-    {
-        SafePointer<DomainXmlNode> item = frame::appendNode(weeks, "ScheduleWeek");
-        if (!ScheduleWeekXml().createDomainXmlNode(week, item)) return false;
-    }
-
-    SafePointer<DomainXmlNode> segments = frame::appendNode(node, "ScheduleTimeSegmentList");
-    for (const ScheduleTimeSegment& segment : schedule.getScheduleTimeSegmentList())
-    {
-        SafePointer<DomainXmlNode> item = frame::appendNode(segments, "ScheduleTimeSegment");
-        if (!ScheduleTimeSegmentXml().createDomainXmlNode(segment, item)) return false;
-    }
-    return true;
+    return frame::appendSchedule(node, schedule);
 }
 
 bool ScheduleRecordTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node,
@@ -127,7 +84,7 @@ bool ScheduleRecordTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlN
     std::vector<ScheduleWeek> weeks;
     if (!node->getConfigNode("ScheduleWeekList", weekList))
         std::puts("ScheduleRecordTimeParamXml::parseDomainXmlNode  node = NODE_SCHEDULE_WEEK_LIST failed");
-    else if (!readWeeks(weekList, weeks))
+    else if (!frame::readWeeks(weekList, weeks))
         return false;
     schedule.getScheduleWeekList() = std::move(weeks);
 
@@ -135,7 +92,7 @@ bool ScheduleRecordTimeParamXml::parseDomainXmlNode(const SafePointer<DomainXmlN
     std::vector<ScheduleTimeSegment> segments;
     if (!node->getConfigNode("ScheduleTimeSegmentList", segmentList))
         std::puts("ScheduleRecordTimeParamXml::parseDomainXmlNode  node = NODE_SCHEDULE_TIME_SEGMENT_LIST failed");
-    else if (!readSegments(segmentList, segments))
+    else if (!frame::readSegments(segmentList, segments))
         return false;
     schedule.getScheduleTimeSegmentList() = std::move(segments);
     return true;
