@@ -12,17 +12,6 @@
 
 #include <utility>
 
-namespace
-{
-
-long long wholeNumberOf(const TiXmlElement& element, const char* name, long long missing)
-{
-    const char* text = frame::attributeOf(element, name);
-    return text != nullptr ? frame::wholeNumberIn(text) : missing;
-}
-
-} // namespace
-
 RecordStreamCtrlXml::RecordStreamCtrlXml() = default;
 
 RecordStreamCtrlXml::~RecordStreamCtrlXml() = default;
@@ -58,8 +47,8 @@ bool RecordStreamCtrlXml::parseXmlNode()
 
     ctrlType_ = frame::intOf(*element, "CtrlType", ctrlType_);
     managerId_ = frame::intOf(*element, "ManagerId", managerId_);
-    paramer1_ = wholeNumberOf(*element, "Paramer1", paramer1_);
-    paramer2_ = wholeNumberOf(*element, "Paramer2", paramer2_);
+    paramer1_ = frame::wholeNumberOf(*element, "Paramer1", paramer1_);
+    paramer2_ = frame::wholeNumberOf(*element, "Paramer2", paramer2_);
 
     const TiXmlElement* list = element->FirstChildElement("PlayExceptionList");
     if (list != nullptr)

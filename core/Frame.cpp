@@ -194,6 +194,12 @@ std::string textOf(const TiXmlElement& element, const char* name, const std::str
     return text != nullptr ? text : missing;
 }
 
+long long wholeNumberOf(const TiXmlElement& element, const char* name, long long missing)
+{
+    const char* text = attributeOf(element, name);
+    return text != nullptr ? wholeNumberIn(text) : missing;
+}
+
 int queriedIntOf(const TiXmlElement& element, const char* name, int missing)
 {
     const char* text = attributeOf(element, name);

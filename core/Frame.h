@@ -67,6 +67,9 @@ bool flagOf(const TiXmlElement& element, const char* name, bool missing);
 std::string textOf(const TiXmlElement& element, const char* name, const char* missing);
 std::string textOf(const TiXmlElement& element, const char* name, const std::string& missing);
 
+/// For the 64-bit values that peers read by way of a `double`: see `wholeNumberIn`.
+long long wholeNumberOf(const TiXmlElement& element, const char* name, long long missing);
+
 /// For the readers to whom a text that begins with no number counts as missing.
 int queriedIntOf(const TiXmlElement& element, const char* name, int missing);
 

@@ -8,7 +8,6 @@
 #include "core/Conversions.h"
 #include "core/Frame.h"
 #include "core/TimeStructXml.h"
-#include "snapshot/SnapshotSteps.h"
 
 #include <utility>
 

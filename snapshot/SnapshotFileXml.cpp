@@ -12,7 +12,6 @@
 #include "core/TimeStructXml.h"
 #include "domain/TimeConverter.h"
 #include "record/AlarmExTypeXml.h"
-#include "snapshot/SnapshotSteps.h"
 
 #include <cstdio>
 

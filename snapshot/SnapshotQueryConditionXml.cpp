@@ -13,7 +13,6 @@
 #include "core/Frame.h"
 #include "core/TimeStructXml.h"
 #include "record/AlarmExTypeXml.h"
-#include "snapshot/SnapshotSteps.h"
 
 SnapshotQueryConditionXml::SnapshotQueryConditionXml() = default;
 

@@ -6,12 +6,6 @@
 namespace frame
 {
 
-long long wholeNumberOf(const TiXmlElement& element, const char* name, long long missing)
-{
-    const char* text = attributeOf(element, name);
-    return text != nullptr ? wholeNumberIn(text) : missing;
-}
-
 TiXmlElement& appendGroup(TiXmlNode& list, const std::string& deviceId, const std::string& deviceIp, int cameraId)
 {
     TiXmlElement& group = appendElement(list, "DeviceInfo");

@@ -7,9 +7,6 @@
 namespace [[gnu::visibility("hidden")]] frame
 {
 
-/// Reads a whole number by way of a `double`: see `wholeNumberIn`.
-long long wholeNumberOf(const TiXmlElement& element, const char* name, long long missing);
-
 /// @name Groups
 /// The "DeviceInfo" elements of a list of pictures.
 /// @{

@@ -32,6 +32,7 @@ TEST(Frame, NarrowsNumbersAsTheFieldsDo)
     EXPECT_EQ(4294967295U, frame::uint32Of(elementWith("4294967295"), "V", 7));
     EXPECT_EQ(-5, frame::int64Of(elementWith("-5 km"), "V", 7));
     EXPECT_EQ(18446744073709551615U, frame::unsignedOf(elementWith("18446744073709551615"), "V", 7));
+    EXPECT_EQ(9007199254740992, frame::wholeNumberOf(elementWith("9007199254740993"), "V", 7));
     EXPECT_EQ(-5L, frame::longOf(elementWith("-5"), "V", 7));
     EXPECT_EQ(4294967295UL, frame::unsignedLongOf(elementWith("4294967295"), "V", 7));
     EXPECT_EQ(2.5, frame::doubleOf(elementWith("2.5"), "V", 7));
@@ -51,6 +52,7 @@ TEST(Frame, GivesTheDefaultForWhatIsMissing)
     EXPECT_EQ(-7, frame::int64Of(empty, "V", -7));
     EXPECT_EQ(std::numeric_limits<unsigned long long>::max(),
               frame::unsignedOf(empty, "V", std::numeric_limits<unsigned long long>::max()));
+    EXPECT_EQ(-7, frame::wholeNumberOf(empty, "V", -7));
     EXPECT_EQ(-7L, frame::longOf(empty, "V", -7));
     EXPECT_EQ(7UL, frame::unsignedLongOf(empty, "V", 7));
     EXPECT_EQ(7.5F, frame::floatOf(empty, "V", 7.5F));
