@@ -1,6 +1,5 @@
 // <LogRequestParamEx DeviceId="D-17" DeviceIp="192.0.2.17" CameraId="3" UserName="operator" SelectMode="2"
-// MajorType="4"
-//                    MinorType="5">
+//                    MajorType="4" MinorType="5">
 //     <StartTime ... />
 //     <EndTime ... />
 // </LogRequestParamEx>

@@ -1,7 +1,6 @@
 // <PrivilegeUserList>
 //     <PrivilegeUser UserId="7" UserName="operator" Password="not told" GroupI="2" LockFlag="true"
-//     MultiLoginFlag="false"
-//                    Desc="Day shift" LockTime="3600" />
+//                    MultiLoginFlag="false" Desc="Day shift" LockTime="3600" />
 // </PrivilegeUserList>
 //
 // The group's attribute lacks its last letter in both forms, and peers look for it so. The node form puts "LockTime"

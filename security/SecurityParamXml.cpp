@@ -1,6 +1,6 @@
 // <SecurityParam LoginMode="2" WebMode="1" CommunicationEncryptFlag="true" AccountsLockTime="30"
-// AccountsUnlockTime="20"
-//                MaxSeriesLoginErrorCount="5" AccountsLockEnableFlag="true" PasswordVerifyMode="1" />
+//                AccountsUnlockTime="20" MaxSeriesLoginErrorCount="5" AccountsLockEnableFlag="true"
+//                PasswordVerifyMode="1" />
 
 #include "security/SecurityParamXml.h"
 
