@@ -1,7 +1,7 @@
 // <ZT_WifiParamList>
 //     <ZT_WifiParam ZT_EnableFlag="true" ZT_SSID="Yard" ZT_Password="not told" ZT_UseDynamicIPFlag="false"
-//                   ZT_StaticIP="192.0.2.21" ZT_SubnetMask="255.255.255.0" ZT_Gateway="192.0.2.1" ZT_DNS="192.0.2.53"
-//                   />
+//                   ZT_StaticIP="192.0.2.21" ZT_SubnetMask="255.255.255.0" ZT_Gateway="192.0.2.1"
+//                   ZT_DNS="192.0.2.53" />
 // </ZT_WifiParamList>
 
 #include "network/ZT_WifiParamXml.h"

@@ -1,5 +1,5 @@
-// <ZentarDDNSParam ZentarDDNSEnableFlag="true" ZentarDDNSDomainName="gate.example.org" ZentarDDNSNetWordCardName="eth1"
-// />
+// <ZentarDDNSParam ZentarDDNSEnableFlag="true" ZentarDDNSDomainName="gate.example.org"
+//                  ZentarDDNSNetWordCardName="eth1" />
 //
 // The peers spell the card "NetWord", here with a capital.
 
