@@ -10,7 +10,8 @@
 /// Whether a device has a passive infrared detector: the "PIRAlarmAbility" element of other documents.
 ///
 /// It is a child only: its string operations do nothing. Reading gives a fresh record, in which a missing attribute
-/// leaves false; without "PIRAlarmAbilityItem" it prints a line and gives false, and the record is as it was.
+/// leaves false. Without "PIRAlarmAbilityItem", or without an element at all, it prints a line and gives false, and the
+/// record is as it was.
 class PIRAlarmAbilityXml : public IDomainXml
 {
 public:

@@ -1,5 +1,5 @@
-// <PTZAbility InternalPTZFlag="true" ThreeDimensionalPositioningFlag="true" MaxPresetCount="255" ...
-// InfraredFlag="true">
+// <PTZAbility InternalPTZFlag="true" ThreeDimensionalPositioningFlag="true" MaxPresetCount="255" MaxScanCount="5"
+//             MaxAutoStudyCount="6" MaxTourCount="8" BrushFlag="true" LightFlag="true" InfraredFlag="true">
 //     <PTZProtocolList>
 //         <PTZProtocol ProtocolId="1" ProtocolName="Dome" />
 //     </PTZProtocolList>

@@ -1893,7 +1893,7 @@ public:
     void setOSDColorList(const std::vector<OSDColor>& osdColorList) { osdColorList_ = osdColorList; }
     /// @}
 
-    /// The colours over a picture of nearly the first one.
+    /// The colours for places where the picture is nearly of the chosen one.
     /// @{
     const std::vector<OSDInverseColor>& getOSDInverseColorList() const { return osdInverseColorList_; }
     std::vector<OSDInverseColor>& getOSDInverseColorList() { return osdInverseColorList_; }
