@@ -17,6 +17,8 @@
 #include "core/Frame.h"
 #include "device/AbilitySteps.h"
 
+#include <vector>
+
 namespace
 {
 
