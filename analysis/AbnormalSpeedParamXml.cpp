@@ -2,7 +2,7 @@
 //     <IntelligeBaseParam ... />
 //     <RegionList>
 //         <Region TargetTypeConstrain="true" TargetType="1" TargetSizeConstrain="true" MinTargetSize="1000"
-//                MaxTargetSize="100000" RateLimitingType="3" MinRate="3" MaxRate="3">
+//                 MaxTargetSize="100000" RateLimitingType="3" MinRate="3" MaxRate="3">
 //             <PolygonArealist>
 //                 <ZTPoint AttrXval="0.25" AttrYval="0.5" />
 //             </PolygonArealist>

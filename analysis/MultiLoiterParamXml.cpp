@@ -2,7 +2,7 @@
 //     <IntelligeBaseParam ... />
 //     <RegionList>
 //         <Region TargetSizeConstrain="true" MinTargetSize="3" MaxTargetSize="3" MinTime="3"
-//                IsAnalysisPath="true" ForbiddenType="true" Minimum="3" Maximum="3">
+//                 IsAnalysisPath="true" ForbiddenType="true" Minimum="3" Maximum="3">
 //             <PolygonArealist>
 //                 <ZTPoint AttrXval="0.25" AttrYval="0.5" />
 //             </PolygonArealist>

@@ -2,7 +2,7 @@
 //     <IntelligeBaseParam ... />
 //     <RegionList>
 //         <Region TargetTypeConstrain="true" TargetType="1" TargetSizeConstrain="true" MinTargetSize="1000"
-//                MaxTargetSize="100000" TimeInterval="3" TriggerDirection1="90" TriggerDirection2="90">
+//                 MaxTargetSize="100000" TimeInterval="3" TriggerDirection1="90" TriggerDirection2="90">
 //             <LineList>
 //                 <LineCross LineCrossStartX="0.1" LineCrossStartY="0.2" LineCrossEndX="0.8" LineCrossEndY="0.9" />
 //                 ...
