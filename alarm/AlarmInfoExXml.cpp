@@ -1,7 +1,7 @@
 // <AlarmInfoExList>
 //     <AlarmInfoEx DeviceId="D1" DeviceIp="192.0.2.1" DeviceType="2" MajorAlarmType="1" MinorAlarmType="3"
-//     AlarmSourceId="S1"
-//                  AlarmSourceName="Door" AlarmFlag="1" AlarmTime="1425254400" Description="Door open">
+//                  AlarmSourceId="S1" AlarmSourceName="Door" AlarmFlag="1" AlarmTime="1425254400"
+//                  Description="Door open">
 //         <AlarmTimeStruct ... />
 //     </AlarmInfoEx>
 // </AlarmInfoExList>

@@ -67,6 +67,26 @@ TEST(AlarmServiceParamXml, ReadsNodes)
     expectParam(sample(), read);
 }
 
+TEST(AlarmServiceParamXml, TellsItsFlagsApart)
+{
+    const std::string expected = "<AlarmServiceParam AlarmCenterEnableFlag=\"false\" AlarmCenterServerIP=\"\""
+                                 " AlarmCenterServerPort=\"0\" AlarmEmailEnableFlag=\"true\" AlarmEmailAddress=\"\""
+                                 " IPProtoVer=\"0\" />\n";
+    AlarmServiceParamXml codec;
+    codec.getAlarmServiceParam().setAlarmEmailEnableFlag(true);
+    EXPECT_EQ(expected, written(codec));
+    AlarmServiceParamXml reader;
+    ASSERT_TRUE(reads(reader, expected));
+    expectParam(codec.getAlarmServiceParam(), reader.getAlarmServiceParam());
+
+    std::string text;
+    ASSERT_TRUE(AlarmServiceParamXml().createXmlString(codec.getAlarmServiceParam(), text));
+    EXPECT_EQ(expected, text);
+    AlarmServiceParam read;
+    ASSERT_TRUE(AlarmServiceParamXml().parseXmlString(text, read));
+    expectParam(codec.getAlarmServiceParam(), read);
+}
+
 TEST(AlarmServiceParamXml, PrintsALineForEachMissingProperty)
 {
     CapturedOutput output;
