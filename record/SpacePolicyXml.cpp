@@ -1,5 +1,5 @@
-// <SpacePolicy CameraId="1" MaxDiskSize="1024" ScheduleRecordDiskSizePercent="87.5" AlarmRecordDiskSizePercent="12.5"
-// />
+// <SpacePolicy CameraId="1" MaxDiskSize="1024" ScheduleRecordDiskSizePercent="87.5"
+//              AlarmRecordDiskSizePercent="12.5" />
 //
 // The peers write the percentages as numbers of double precision: 0.1 of single precision goes out as
 // 0.10000000149011612, and comes back as it was.
