@@ -187,6 +187,14 @@ TEST(CameraConfigureExXml, WritesNodes)
     EXPECT_TRUE(matchesGolden(text, "media/CameraConfigureExXml.node.xml"));
 }
 
+TEST(CameraConfigureExXml, WritesContainersWithoutItems)
+{
+    std::string text;
+    ASSERT_TRUE(CameraConfigureExXml().createXmlString(CameraConfigureEx(), text));
+    EXPECT_NE(std::string::npos,
+              text.find("\t<VideoCapture />\n\t<StreamConfig />\n\t<ROIConfig />\n\t<SVCStreamConfigure />\n"));
+}
+
 TEST(CameraConfigureExXml, ReadsNodes)
 {
     CapturedOutput output;
