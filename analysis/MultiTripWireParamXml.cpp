@@ -124,7 +124,7 @@ bool MultiTripWireParamXml::parseLineCrossToDomainXmlNode(const SafePointer<Doma
     for (; item != nullptr; item = item->NextSiblingElement())
     {
         LineCross line;
-        if (!LineCrossXml::readElement(*item, line)) return false;
+        if (item->ValueStr() != "LineCross" || !LineCrossXml::readElement(*item, line)) return false;
         lines.push_back(line);
     }
     return true;

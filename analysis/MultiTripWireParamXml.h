@@ -34,7 +34,8 @@ public:
     /// Adds the container "LineList" with the two lines to @p node. False if that is empty.
     bool createLineCrossToDomainXmlNode(const LineCross& first, const LineCross& second,
                                         SafePointer<DomainXmlNode>& node) const;
-    /// Appends all children of the child "LineList" of @p node to @p lines. False without it.
+    /// Appends all children of the child "LineList" of @p node to @p lines. False without it, or at one that is no
+    /// "LineCross".
     bool parseLineCrossToDomainXmlNode(const SafePointer<DomainXmlNode>& node, std::vector<LineCross>& lines) const;
 
 private:

@@ -70,6 +70,25 @@ TEST(AbnormalSpeedParamXml, ReadsNodes)
     EXPECT_EQ("", output.text());
 }
 
+TEST(AbnormalSpeedParamXml, TellsTheFlagsOfARegionApart)
+{
+    const std::vector<std::string> flags = {"TargetTypeConstrain", "TargetSizeConstrain"};
+    for (const std::string& flag : flags)
+    {
+        AbnormalSpeedParam rule = sample();
+        AbnormalSpeedRegionParam& region = rule.getAbnormalSpeedRegionParamList()[0];
+        region.setTargetTypeConstrain(flag == "TargetTypeConstrain");
+        region.setTargetSizeConstrain(flag == "TargetSizeConstrain");
+
+        std::string text;
+        ASSERT_TRUE(AbnormalSpeedParamXml().createXmlString(rule, text));
+        EXPECT_EQ(withOneFlag(golden("analysis/AbnormalSpeedParamXml.node.xml"), flags, flag), text);
+        AbnormalSpeedParam read;
+        ASSERT_TRUE(AbnormalSpeedParamXml().parseXmlString(text, read));
+        expectRule(rule, read);
+    }
+}
+
 TEST(AbnormalSpeedParamXml, ReplacesWhatTheRecordHeld)
 {
     CapturedOutput output;

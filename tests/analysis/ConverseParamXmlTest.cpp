@@ -66,6 +66,25 @@ TEST(ConverseParamXml, ReadsNodes)
     EXPECT_EQ("", output.text());
 }
 
+TEST(ConverseParamXml, TellsTheFlagsOfARegionApart)
+{
+    const std::vector<std::string> flags = {"TargetTypeConstrain", "TargetSizeConstrain"};
+    for (const std::string& flag : flags)
+    {
+        ConverseParam rule = sample();
+        ConverseRegionParam& region = rule.getConverseRegionParamList()[0];
+        region.setTargetTypeConstrain(flag == "TargetTypeConstrain");
+        region.setTargetSizeConstrain(flag == "TargetSizeConstrain");
+
+        std::string text;
+        ASSERT_TRUE(ConverseParamXml().createXmlString(rule, text));
+        EXPECT_EQ(withOneFlag(golden("analysis/ConverseParamXml.node.xml"), flags, flag), text);
+        ConverseParam read;
+        ASSERT_TRUE(ConverseParamXml().parseXmlString(text, read));
+        expectRule(rule, read);
+    }
+}
+
 TEST(ConverseParamXml, ReplacesWhatTheRecordHeld)
 {
     CapturedOutput output;

@@ -8,15 +8,35 @@
 namespace
 {
 
-MotionDetectionAbilityV2 motionDetectionAbilityV2()
+/// The flags of the functions, each given out once, in the document's order.
+class Flags
+{
+public:
+    /// Those of the golden.
+    Flags() = default;
+    /// Bit @p bit of the number of each: with all bits, no two flags are alike throughout.
+    explicit Flags(int bit) : bit_(bit) {}
+
+    bool next()
+    {
+        const int number = number_++;
+        return bit_ < 0 ? number % 3 != 2 : (number >> bit_ & 1) != 0;
+    }
+
+private:
+    int bit_ = -1;
+    int number_ = 0;
+};
+
+MotionDetectionAbilityV2 motionDetectionAbilityV2(Flags& flags)
 {
     MotionDetectionAbilityV2 ability;
-    ability.setEnable(true);
+    ability.setEnable(flags.next());
     ability.setLibId(11);
-    ability.setSensitivityEnable(true);
+    ability.setSensitivityEnable(flags.next());
     ability.setSensitivityMin(12);
     ability.setSensitivityMax(13);
-    ability.setCellEnable(false);
+    ability.setCellEnable(flags.next());
     ability.setCellWidthCellNumber(14);
     ability.setCellHeightCellNumber(15);
     return ability;
@@ -34,36 +54,36 @@ void expectMotionDetectionAbilityV2(const MotionDetectionAbilityV2& expected, co
     EXPECT_EQ(expected.getCellHeightCellNumber(), ability.getCellHeightCellNumber());
 }
 
-PerimeterAbility perimeterAbility()
+PerimeterAbility perimeterAbility(Flags& flags)
 {
     PerimeterAbility ability;
-    ability.setEnable(true);
+    ability.setEnable(flags.next());
     ability.setLibId(16);
-    ability.setRegionEnable(true);
+    ability.setRegionEnable(flags.next());
     ability.setEdgeNum(17);
     ability.setMaxRegionNum(18);
-    ability.setDetailGetEnable(false);
-    ability.setTargetTypeConstrainEnable(true);
+    ability.setDetailGetEnable(flags.next());
+    ability.setTargetTypeConstrainEnable(flags.next());
     ability.setTargetTypeConstrainMin(19);
     ability.setTargetTypeConstrainMax(20);
     ability.setTargetTypeConstrainUnit("u21");
-    ability.setTargetTypeEnable(true);
+    ability.setTargetTypeEnable(flags.next());
     ability.setTargetTypeMin(22);
     ability.setTargetTypeMax(23);
     ability.setTargetTypeUnit("u24");
-    ability.setTargetSizeConstrainEnable(false);
+    ability.setTargetSizeConstrainEnable(flags.next());
     ability.setTargetSizeConstrainMin(25);
     ability.setTargetSizeConstrainMax(26);
     ability.setTargetSizeConstrainUnit("u27");
-    ability.setMinTargetSizeEnable(true);
+    ability.setMinTargetSizeEnable(flags.next());
     ability.setMinTargetSizeMin(28);
     ability.setMinTargetSizeMax(29);
     ability.setMinTargetSizeUnit("u30");
-    ability.setMaxTargetSizeEnable(true);
+    ability.setMaxTargetSizeEnable(flags.next());
     ability.setMaxTargetSizeMin(31);
     ability.setMaxTargetSizeMax(32);
     ability.setMaxTargetSizeUnit("u33");
-    ability.setSensitivityEnable(false);
+    ability.setSensitivityEnable(flags.next());
     ability.setSensitivityMin(34);
     ability.setSensitivityMax(35);
     return ability;
@@ -102,34 +122,34 @@ void expectPerimeterAbility(const PerimeterAbility& expected, const PerimeterAbi
     EXPECT_EQ(expected.getSensitivityMax(), ability.getSensitivityMax());
 }
 
-TripWireAbility tripWireAbility()
+TripWireAbility tripWireAbility(Flags& flags)
 {
     TripWireAbility ability;
-    ability.setEnable(true);
+    ability.setEnable(flags.next());
     ability.setLibId(36);
-    ability.setRegionEnable(true);
+    ability.setRegionEnable(flags.next());
     ability.setEdgeNum(37);
     ability.setMaxRegionNum(38);
-    ability.setDetailGetEnable(false);
-    ability.setTriggerDirectionEnable(true);
-    ability.setBidirectionEnable(true);
-    ability.setTargetTypeConstrainEnable(false);
+    ability.setDetailGetEnable(flags.next());
+    ability.setTriggerDirectionEnable(flags.next());
+    ability.setBidirectionEnable(flags.next());
+    ability.setTargetTypeConstrainEnable(flags.next());
     ability.setTargetTypeConstrainMin(39);
     ability.setTargetTypeConstrainMax(40);
     ability.setTargetTypeConstrainUnit("u41");
-    ability.setTargetTypeEnable(true);
+    ability.setTargetTypeEnable(flags.next());
     ability.setTargetTypeMin(42);
     ability.setTargetTypeMax(43);
     ability.setTargetTypeUnit("u44");
-    ability.setTargetSizeConstrainEnable(true);
+    ability.setTargetSizeConstrainEnable(flags.next());
     ability.setTargetSizeConstrainMin(45);
     ability.setTargetSizeConstrainMax(46);
     ability.setTargetSizeConstrainUnit("u47");
-    ability.setMinTargetSizeEnable(false);
+    ability.setMinTargetSizeEnable(flags.next());
     ability.setMinTargetSizeMin(48);
     ability.setMinTargetSizeMax(49);
     ability.setMinTargetSizeUnit("u50");
-    ability.setMaxTargetSizeEnable(true);
+    ability.setMaxTargetSizeEnable(flags.next());
     ability.setMaxTargetSizeMin(51);
     ability.setMaxTargetSizeMax(52);
     ability.setMaxTargetSizeUnit("u53");
@@ -168,37 +188,37 @@ void expectTripWireAbility(const TripWireAbility& expected, const TripWireAbilit
     EXPECT_EQ(expected.getMaxTargetSizeUnit(), ability.getMaxTargetSizeUnit());
 }
 
-MultiTripWireAbility multiTripWireAbility()
+MultiTripWireAbility multiTripWireAbility(Flags& flags)
 {
     MultiTripWireAbility ability;
-    ability.setEnable(true);
+    ability.setEnable(flags.next());
     ability.setLibId(54);
-    ability.setRegionEnable(false);
+    ability.setRegionEnable(flags.next());
     ability.setEdgeNum(55);
     ability.setMaxRegionNum(56);
-    ability.setDetailGetEnable(true);
-    ability.setTriggerDirectionEnable(true);
-    ability.setTimeIntervalEnable(false);
+    ability.setDetailGetEnable(flags.next());
+    ability.setTriggerDirectionEnable(flags.next());
+    ability.setTimeIntervalEnable(flags.next());
     ability.setTimeIntervalMin(57);
     ability.setTimeIntervalMax(58);
     ability.setTimeIntervalUnit("u59");
-    ability.setTargetTypeConstrainEnable(true);
+    ability.setTargetTypeConstrainEnable(flags.next());
     ability.setTargetTypeConstrainMin(60);
     ability.setTargetTypeConstrainMax(61);
     ability.setTargetTypeConstrainUnit("u62");
-    ability.setTargetTypeEnable(true);
+    ability.setTargetTypeEnable(flags.next());
     ability.setTargetTypeMin(63);
     ability.setTargetTypeMax(64);
     ability.setTargetTypeUnit("u65");
-    ability.setTargetSizeConstrainEnable(false);
+    ability.setTargetSizeConstrainEnable(flags.next());
     ability.setTargetSizeConstrainMin(66);
     ability.setTargetSizeConstrainMax(67);
     ability.setTargetSizeConstrainUnit("u68");
-    ability.setMinTargetSizeEnable(true);
+    ability.setMinTargetSizeEnable(flags.next());
     ability.setMinTargetSizeMin(69);
     ability.setMinTargetSizeMax(70);
     ability.setMinTargetSizeUnit("u71");
-    ability.setMaxTargetSizeEnable(true);
+    ability.setMaxTargetSizeEnable(flags.next());
     ability.setMaxTargetSizeMin(72);
     ability.setMaxTargetSizeMax(73);
     ability.setMaxTargetSizeUnit("u74");
@@ -240,40 +260,40 @@ void expectMultiTripWireAbility(const MultiTripWireAbility& expected, const Mult
     EXPECT_EQ(expected.getMaxTargetSizeUnit(), ability.getMaxTargetSizeUnit());
 }
 
-LoiterAbility loiterAbility()
+LoiterAbility loiterAbility(Flags& flags)
 {
     LoiterAbility ability;
-    ability.setEnable(false);
+    ability.setEnable(flags.next());
     ability.setLibId(75);
-    ability.setRegionEnable(true);
+    ability.setRegionEnable(flags.next());
     ability.setEdgeNum(76);
     ability.setMaxRegionNum(77);
-    ability.setDetailGetEnable(true);
-    ability.setAnalysisPathEnable(false);
+    ability.setDetailGetEnable(flags.next());
+    ability.setAnalysisPathEnable(flags.next());
     ability.setAnalysisPathMin(78);
     ability.setAnalysisPathMax(79);
     ability.setAnalysisPathUnit("u80");
-    ability.setTargetTypeConstrainEnable(true);
+    ability.setTargetTypeConstrainEnable(flags.next());
     ability.setTargetTypeConstrainMin(81);
     ability.setTargetTypeConstrainMax(82);
     ability.setTargetTypeConstrainUnit("u83");
-    ability.setTargetTypeEnable(true);
+    ability.setTargetTypeEnable(flags.next());
     ability.setTargetTypeMin(84);
     ability.setTargetTypeMax(85);
     ability.setTargetTypeUnit("u86");
-    ability.setTargetSizeConstrainEnable(false);
+    ability.setTargetSizeConstrainEnable(flags.next());
     ability.setTargetSizeConstrainMin(87);
     ability.setTargetSizeConstrainMax(88);
     ability.setTargetSizeConstrainUnit("u89");
-    ability.setMinTargetSizeEnable(true);
+    ability.setMinTargetSizeEnable(flags.next());
     ability.setMinTargetSizeMin(90);
     ability.setMinTargetSizeMax(91);
     ability.setMinTargetSizeUnit("u92");
-    ability.setMaxTargetSizeEnable(true);
+    ability.setMaxTargetSizeEnable(flags.next());
     ability.setMaxTargetSizeMin(93);
     ability.setMaxTargetSizeMax(94);
     ability.setMaxTargetSizeUnit("u95");
-    ability.setMinTimeEnable(false);
+    ability.setMinTimeEnable(flags.next());
     ability.setMinTimeMin(96);
     ability.setMinTimeMax(97);
     ability.setMinTimeUnit("u98");
@@ -318,41 +338,41 @@ void expectLoiterAbility(const LoiterAbility& expected, const LoiterAbility& abi
     EXPECT_EQ(expected.getMinTimeUnit(), ability.getMinTimeUnit());
 }
 
-MultiLoiterAbility multiLoiterAbility()
+MultiLoiterAbility multiLoiterAbility(Flags& flags)
 {
     MultiLoiterAbility ability;
-    ability.setEnable(true);
+    ability.setEnable(flags.next());
     ability.setLibId(99);
-    ability.setRegionEnable(true);
+    ability.setRegionEnable(flags.next());
     ability.setEdgeNum(100);
     ability.setMaxRegionNum(101);
-    ability.setDetailGetEnable(false);
-    ability.setAnalysisPathEnable(true);
+    ability.setDetailGetEnable(flags.next());
+    ability.setAnalysisPathEnable(flags.next());
     ability.setAnalysisPathMin(102);
     ability.setAnalysisPathMax(103);
     ability.setAnalysisPathUnit("u104");
-    ability.setTargetSizeConstrainEnable(true);
+    ability.setTargetSizeConstrainEnable(flags.next());
     ability.setTargetSizeConstrainMin(105);
     ability.setTargetSizeConstrainMax(106);
     ability.setTargetSizeConstrainUnit("u107");
-    ability.setMinTargetSizeEnable(false);
+    ability.setMinTargetSizeEnable(flags.next());
     ability.setMinTargetSizeMin(108);
     ability.setMinTargetSizeMax(109);
     ability.setMinTargetSizeUnit("u110");
-    ability.setMaxTargetSizeEnable(true);
+    ability.setMaxTargetSizeEnable(flags.next());
     ability.setMaxTargetSizeMin(111);
     ability.setMaxTargetSizeMax(112);
     ability.setMaxTargetSizeUnit("u113");
-    ability.setMinTimeEnable(true);
+    ability.setMinTimeEnable(flags.next());
     ability.setMinTimeMin(114);
     ability.setMinTimeMax(115);
     ability.setMinTimeUnit("u116");
-    ability.setForbiddenTypeEnable(false);
-    ability.setMinimumEnable(true);
+    ability.setForbiddenTypeEnable(flags.next());
+    ability.setMinimumEnable(flags.next());
     ability.setMinimumMin(117);
     ability.setMinimumMax(118);
     ability.setMinimumUnit("u119");
-    ability.setMaximumEnable(true);
+    ability.setMaximumEnable(flags.next());
     ability.setMaximumMin(120);
     ability.setMaximumMax(121);
     ability.setMaximumUnit("u122");
@@ -398,24 +418,24 @@ void expectMultiLoiterAbility(const MultiLoiterAbility& expected, const MultiLoi
     EXPECT_EQ(expected.getMaximumUnit(), ability.getMaximumUnit());
 }
 
-ObjLeftAbility objLeftAbility()
+ObjLeftAbility objLeftAbility(Flags& flags)
 {
     ObjLeftAbility ability;
-    ability.setEnable(false);
+    ability.setEnable(flags.next());
     ability.setLibId(123);
-    ability.setRegionEnable(true);
+    ability.setRegionEnable(flags.next());
     ability.setEdgeNum(124);
     ability.setMaxRegionNum(125);
-    ability.setDetailGetEnable(true);
-    ability.setMinTargetSizeEnable(false);
+    ability.setDetailGetEnable(flags.next());
+    ability.setMinTargetSizeEnable(flags.next());
     ability.setMinTargetSizeMin(126);
     ability.setMinTargetSizeMax(127);
     ability.setMinTargetSizeUnit("u128");
-    ability.setMaxTargetSizeEnable(true);
+    ability.setMaxTargetSizeEnable(flags.next());
     ability.setMaxTargetSizeMin(129);
     ability.setMaxTargetSizeMax(130);
     ability.setMaxTargetSizeUnit("u131");
-    ability.setMinTimeEnable(true);
+    ability.setMinTimeEnable(flags.next());
     ability.setMinTimeMin(132);
     ability.setMinTimeMax(133);
     ability.setMinTimeUnit("u134");
@@ -444,24 +464,24 @@ void expectObjLeftAbility(const ObjLeftAbility& expected, const ObjLeftAbility& 
     EXPECT_EQ(expected.getMinTimeUnit(), ability.getMinTimeUnit());
 }
 
-ObjMoveAbility objMoveAbility()
+ObjMoveAbility objMoveAbility(Flags& flags)
 {
     ObjMoveAbility ability;
-    ability.setEnable(false);
+    ability.setEnable(flags.next());
     ability.setLibId(135);
-    ability.setRegionEnable(true);
+    ability.setRegionEnable(flags.next());
     ability.setEdgeNum(136);
     ability.setMaxRegionNum(137);
-    ability.setDetailGetEnable(true);
-    ability.setMinTargetSizeEnable(false);
+    ability.setDetailGetEnable(flags.next());
+    ability.setMinTargetSizeEnable(flags.next());
     ability.setMinTargetSizeMin(138);
     ability.setMinTargetSizeMax(139);
     ability.setMinTargetSizeUnit("u140");
-    ability.setMaxTargetSizeEnable(true);
+    ability.setMaxTargetSizeEnable(flags.next());
     ability.setMaxTargetSizeMin(141);
     ability.setMaxTargetSizeMax(142);
     ability.setMaxTargetSizeUnit("u143");
-    ability.setMinTimeEnable(true);
+    ability.setMinTimeEnable(flags.next());
     ability.setMinTimeMin(144);
     ability.setMinTimeMax(145);
     ability.setMinTimeUnit("u146");
@@ -490,44 +510,44 @@ void expectObjMoveAbility(const ObjMoveAbility& expected, const ObjMoveAbility& 
     EXPECT_EQ(expected.getMinTimeUnit(), ability.getMinTimeUnit());
 }
 
-AbnormalSpeedAbility abnormalSpeedAbility()
+AbnormalSpeedAbility abnormalSpeedAbility(Flags& flags)
 {
     AbnormalSpeedAbility ability;
-    ability.setEnable(false);
+    ability.setEnable(flags.next());
     ability.setLibId(147);
-    ability.setRegionEnable(true);
+    ability.setRegionEnable(flags.next());
     ability.setEdgeNum(148);
     ability.setMaxRegionNum(149);
-    ability.setDetailGetEnable(true);
-    ability.setTargetTypeConstrainEnable(false);
+    ability.setDetailGetEnable(flags.next());
+    ability.setTargetTypeConstrainEnable(flags.next());
     ability.setTargetTypeConstrainMin(150);
     ability.setTargetTypeConstrainMax(151);
     ability.setTargetTypeConstrainUnit("u152");
-    ability.setTargetTypeEnable(true);
+    ability.setTargetTypeEnable(flags.next());
     ability.setTargetTypeMin(153);
     ability.setTargetTypeMax(154);
     ability.setTargetTypeUnit("u155");
-    ability.setTargetSizeConstrainEnable(true);
+    ability.setTargetSizeConstrainEnable(flags.next());
     ability.setTargetSizeConstrainMin(156);
     ability.setTargetSizeConstrainMax(157);
     ability.setTargetSizeConstrainUnit("u158");
-    ability.setMinTargetSizeEnable(false);
+    ability.setMinTargetSizeEnable(flags.next());
     ability.setMinTargetSizeMin(159);
     ability.setMinTargetSizeMax(160);
     ability.setMinTargetSizeUnit("u161");
-    ability.setMaxTargetSizeEnable(true);
+    ability.setMaxTargetSizeEnable(flags.next());
     ability.setMaxTargetSizeMin(162);
     ability.setMaxTargetSizeMax(163);
     ability.setMaxTargetSizeUnit("u164");
-    ability.setRateLimitingTypeEnable(true);
+    ability.setRateLimitingTypeEnable(flags.next());
     ability.setRateLimitingTypeMin(165);
     ability.setRateLimitingTypeMax(166);
     ability.setRateLimitingTypeUnit("u167");
-    ability.setMinRateEnable(false);
+    ability.setMinRateEnable(flags.next());
     ability.setMinRateMin(168);
     ability.setMinRateMax(169);
     ability.setMinRateUnit("u170");
-    ability.setMaxRateEnable(true);
+    ability.setMaxRateEnable(flags.next());
     ability.setMaxRateMin(171);
     ability.setMaxRateMax(172);
     ability.setMaxRateUnit("u173");
@@ -576,36 +596,36 @@ void expectAbnormalSpeedAbility(const AbnormalSpeedAbility& expected, const Abno
     EXPECT_EQ(expected.getMaxRateUnit(), ability.getMaxRateUnit());
 }
 
-ConverseAbility converseAbility()
+ConverseAbility converseAbility(Flags& flags)
 {
     ConverseAbility ability;
-    ability.setEnable(true);
+    ability.setEnable(flags.next());
     ability.setLibId(174);
-    ability.setRegionEnable(false);
+    ability.setRegionEnable(flags.next());
     ability.setEdgeNum(175);
     ability.setMaxRegionNum(176);
-    ability.setDetailGetEnable(true);
-    ability.setTargetTypeConstrainEnable(true);
+    ability.setDetailGetEnable(flags.next());
+    ability.setTargetTypeConstrainEnable(flags.next());
     ability.setTargetTypeConstrainMin(177);
     ability.setTargetTypeConstrainMax(178);
     ability.setTargetTypeConstrainUnit("u179");
-    ability.setTargetTypeEnable(false);
+    ability.setTargetTypeEnable(flags.next());
     ability.setTargetTypeMin(180);
     ability.setTargetTypeMax(181);
     ability.setTargetTypeUnit("u182");
-    ability.setTargetSizeConstrainEnable(true);
+    ability.setTargetSizeConstrainEnable(flags.next());
     ability.setTargetSizeConstrainMin(183);
     ability.setTargetSizeConstrainMax(184);
     ability.setTargetSizeConstrainUnit("u185");
-    ability.setMinTargetSizeEnable(true);
+    ability.setMinTargetSizeEnable(flags.next());
     ability.setMinTargetSizeMin(186);
     ability.setMinTargetSizeMax(187);
     ability.setMinTargetSizeUnit("u188");
-    ability.setMaxTargetSizeEnable(false);
+    ability.setMaxTargetSizeEnable(flags.next());
     ability.setMaxTargetSizeMin(189);
     ability.setMaxTargetSizeMax(190);
     ability.setMaxTargetSizeUnit("u191");
-    ability.setConverseAngleEnable(true);
+    ability.setConverseAngleEnable(flags.next());
     ability.setConverseAngleMin(0.5F);
     ability.setConverseAngleMax(89.75F);
     ability.setConverseAngleUnit("u192");
@@ -646,24 +666,24 @@ void expectConverseAbility(const ConverseAbility& expected, const ConverseAbilit
     EXPECT_EQ(expected.getConverseAngleUnit(), ability.getConverseAngleUnit());
 }
 
-NoParkingAbility noParkingAbility()
+NoParkingAbility noParkingAbility(Flags& flags)
 {
     NoParkingAbility ability;
-    ability.setEnable(true);
+    ability.setEnable(flags.next());
     ability.setLibId(193);
-    ability.setRegionEnable(false);
+    ability.setRegionEnable(flags.next());
     ability.setEdgeNum(194);
     ability.setMaxRegionNum(195);
-    ability.setDetailGetEnable(true);
-    ability.setMinTargetSizeEnable(true);
+    ability.setDetailGetEnable(flags.next());
+    ability.setMinTargetSizeEnable(flags.next());
     ability.setMinTargetSizeMin(196);
     ability.setMinTargetSizeMax(197);
     ability.setMinTargetSizeUnit("u198");
-    ability.setMaxTargetSizeEnable(false);
+    ability.setMaxTargetSizeEnable(flags.next());
     ability.setMaxTargetSizeMin(199);
     ability.setMaxTargetSizeMax(200);
     ability.setMaxTargetSizeUnit("u201");
-    ability.setMinTimeEnable(true);
+    ability.setMinTimeEnable(flags.next());
     ability.setMinTimeMin(202);
     ability.setMinTimeMax(203);
     ability.setMinTimeUnit("u204");
@@ -692,12 +712,12 @@ void expectNoParkingAbility(const NoParkingAbility& expected, const NoParkingAbi
     EXPECT_EQ(expected.getMinTimeUnit(), ability.getMinTimeUnit());
 }
 
-SignalBadAbility signalBadAbility()
+SignalBadAbility signalBadAbility(Flags& flags)
 {
     SignalBadAbility ability;
-    ability.setEnable(true);
+    ability.setEnable(flags.next());
     ability.setLibId(205);
-    ability.setDetailGet(false);
+    ability.setDetailGet(flags.next());
     return ability;
 }
 
@@ -708,12 +728,12 @@ void expectSignalBadAbility(const SignalBadAbility& expected, const SignalBadAbi
     EXPECT_EQ(expected.getDetailGet(), ability.getDetailGet());
 }
 
-CameraTamperAbility cameraTamperAbility()
+CameraTamperAbility cameraTamperAbility(Flags& flags)
 {
     CameraTamperAbility ability;
-    ability.setEnable(true);
+    ability.setEnable(flags.next());
     ability.setLibId(206);
-    ability.setMinTimeEnable(true);
+    ability.setMinTimeEnable(flags.next());
     ability.setMinTimeMin(207);
     ability.setMinTimeMax(208);
     ability.setMinTimeUnit("u209");
@@ -730,10 +750,10 @@ void expectCameraTamperAbility(const CameraTamperAbility& expected, const Camera
     EXPECT_EQ(expected.getMinTimeUnit(), ability.getMinTimeUnit());
 }
 
-CameraMoveAbility cameraMoveAbility()
+CameraMoveAbility cameraMoveAbility(Flags& flags)
 {
     CameraMoveAbility ability;
-    ability.setEnable(false);
+    ability.setEnable(flags.next());
     ability.setLibId(210);
     return ability;
 }
@@ -744,42 +764,42 @@ void expectCameraMoveAbility(const CameraMoveAbility& expected, const CameraMove
     EXPECT_EQ(expected.getLibId(), ability.getLibId());
 }
 
-AdvancedAbility advancedAbility()
+AdvancedAbility advancedAbility(Flags& flags)
 {
     AdvancedAbility ability;
-    ability.setEnable(true);
+    ability.setEnable(flags.next());
     ability.setLibId(211);
-    ability.setSceneEnable(true);
+    ability.setSceneEnable(flags.next());
     ability.setSceneMin(212);
     ability.setSceneMax(213);
     ability.setSceneUnit("u214");
-    ability.setHightEnable(false);
+    ability.setHightEnable(flags.next());
     ability.setHightUnit("u215");
-    ability.setAngleEnable(true);
+    ability.setAngleEnable(flags.next());
     ability.setAngleUnit("u216");
-    ability.setFOVEnable(true);
+    ability.setFOVEnable(flags.next());
     ability.setFOVUnit("u217");
-    ability.setCameraShakeEnable(false);
+    ability.setCameraShakeEnable(flags.next());
     ability.setCameraShakeMin(218);
     ability.setCameraShakeMax(219);
-    ability.setHighNoiseEnable(true);
+    ability.setHighNoiseEnable(flags.next());
     ability.setHighNoiseMin(220);
     ability.setHighNoiseMax(221);
-    ability.setLowContrastEnable(true);
+    ability.setLowContrastEnable(flags.next());
     ability.setLowContrastMin(222);
     ability.setLowContrastMax(223);
-    ability.setPeriodMotionEnable(false);
+    ability.setPeriodMotionEnable(flags.next());
     ability.setPeriodMotionMin(224);
     ability.setPeriodMotionMax(225);
-    ability.setPeriodMotionTimeEnable(true);
+    ability.setPeriodMotionTimeEnable(flags.next());
     ability.setPeriodMotionTimeMin(226);
     ability.setPeriodMotionTimeMax(227);
     ability.setPeriodMotionTimeUnit("u228");
-    ability.setPixelToRealSizeEnable(true);
-    ability.setRealSizeEnable(false);
+    ability.setPixelToRealSizeEnable(flags.next());
+    ability.setRealSizeEnable(flags.next());
     ability.setRealSizeUnit("u229");
-    ability.setSegmentLayTypeEnable(true);
-    ability.setSegmentEnable(true);
+    ability.setSegmentLayTypeEnable(flags.next());
+    ability.setSegmentEnable(flags.next());
     return ability;
 }
 
@@ -842,26 +862,26 @@ void expectLibrary(const LibCommonAbility& expected, const LibCommonAbility& abi
     EXPECT_EQ(expected.getMaxEnableFunsNum(), ability.getMaxEnableFunsNum());
 }
 
-IntelligenceAnalyseAbility sample()
+IntelligenceAnalyseAbility sample(Flags flags = Flags())
 {
     IntelligenceAnalyseAbility ability;
     ability.setVersion(3);
     ability.setLibCommonAbilityList({library(1, true, 704, 576, 16, 8), library(2, false, 352, 288, 4, 2)});
-    ability.setMotionDetectionAbilityV2(motionDetectionAbilityV2());
-    ability.setPerimeterAbility(perimeterAbility());
-    ability.setTripWireAbility(tripWireAbility());
-    ability.setMultiTripWireAbility(multiTripWireAbility());
-    ability.setLoiterAbility(loiterAbility());
-    ability.setMultiLoiterAbility(multiLoiterAbility());
-    ability.setObjLeftAbility(objLeftAbility());
-    ability.setObjMoveAbility(objMoveAbility());
-    ability.setAbnormalSpeedAbility(abnormalSpeedAbility());
-    ability.setConverseAbility(converseAbility());
-    ability.setNoParkingAbility(noParkingAbility());
-    ability.setSignalBadAbility(signalBadAbility());
-    ability.setCameraTamperAbility(cameraTamperAbility());
-    ability.setCameraMoveAbility(cameraMoveAbility());
-    ability.setAdvancedAbility(advancedAbility());
+    ability.setMotionDetectionAbilityV2(motionDetectionAbilityV2(flags));
+    ability.setPerimeterAbility(perimeterAbility(flags));
+    ability.setTripWireAbility(tripWireAbility(flags));
+    ability.setMultiTripWireAbility(multiTripWireAbility(flags));
+    ability.setLoiterAbility(loiterAbility(flags));
+    ability.setMultiLoiterAbility(multiLoiterAbility(flags));
+    ability.setObjLeftAbility(objLeftAbility(flags));
+    ability.setObjMoveAbility(objMoveAbility(flags));
+    ability.setAbnormalSpeedAbility(abnormalSpeedAbility(flags));
+    ability.setConverseAbility(converseAbility(flags));
+    ability.setNoParkingAbility(noParkingAbility(flags));
+    ability.setSignalBadAbility(signalBadAbility(flags));
+    ability.setCameraTamperAbility(cameraTamperAbility(flags));
+    ability.setCameraMoveAbility(cameraMoveAbility(flags));
+    ability.setAdvancedAbility(advancedAbility(flags));
     return ability;
 }
 
@@ -891,6 +911,23 @@ void expectAbility(const IntelligenceAnalyseAbility& expected, const Intelligenc
     for (std::size_t place = 0; place < ability.getLibCommonAbilityList().size(); ++place)
         expectLibrary(expected.getLibCommonAbilityList()[place], ability.getLibCommonAbilityList()[place]);
     expectFunctions(expected, ability);
+}
+
+/// The golden with other flags of the functions.
+std::string goldenWith(Flags flags)
+{
+    const std::string text = golden("analysis/IntelligenceAnalyseAbilityXml.node.xml");
+    const std::string start = " enable=\"";
+    std::string changed;
+    std::size_t behind = 0;
+    for (std::size_t at = text.find(start, text.find("<Functions>")); at != std::string::npos;
+         at = text.find(start, behind))
+    {
+        at += start.size();
+        changed += text.substr(behind, at - behind) + (flags.next() ? "true" : "false");
+        behind = text.find('"', at);
+    }
+    return changed + text.substr(behind);
 }
 
 const char* const versionOnly = "<IntelligenceAnalyseAbility><Version value='1' />";
@@ -935,6 +972,21 @@ TEST(IntelligenceAnalyseAbilityXml, Reads)
         golden("analysis/IntelligenceAnalyseAbilityXml.node.xml"), read));
     expectAbility(sample(), read);
     EXPECT_EQ("", output.text());
+}
+
+TEST(IntelligenceAnalyseAbilityXml, TellsEveryFlagApart)
+{
+    for (int bit = 0; bit < 7; ++bit)
+    {
+        const IntelligenceAnalyseAbility expected = sample(Flags(bit));
+        std::string text;
+        ASSERT_TRUE(IntelligenceAnalyseAbilityXml().createXmlString(expected, text));
+        EXPECT_EQ(goldenWith(Flags(bit)), text);
+
+        IntelligenceAnalyseAbility read;
+        ASSERT_TRUE(IntelligenceAnalyseAbilityXml().parseXmlString(text, read));
+        expectAbility(expected, read);
+    }
 }
 
 TEST(IntelligenceAnalyseAbilityXml, ReplacesTheLibraries)

@@ -68,6 +68,26 @@ TEST(LoiterParamXml, ReadsNodes)
     EXPECT_EQ("", output.text());
 }
 
+TEST(LoiterParamXml, TellsTheFlagsOfARegionApart)
+{
+    const std::vector<std::string> flags = {"TargetTypeConstrain", "TargetSizeConstrain", "IsAnalysisPath"};
+    for (const std::string& flag : flags)
+    {
+        LoiterParam rule = sample();
+        LoiterRegionParam& region = rule.getLoiterRegionParamList()[0];
+        region.setTargetTypeConstrain(flag == "TargetTypeConstrain");
+        region.setTargetSizeConstrain(flag == "TargetSizeConstrain");
+        region.setAnalysisPath(flag == "IsAnalysisPath");
+
+        std::string text;
+        ASSERT_TRUE(LoiterParamXml().createXmlString(rule, text));
+        EXPECT_EQ(withOneFlag(golden("analysis/LoiterParamXml.node.xml"), flags, flag), text);
+        LoiterParam read;
+        ASSERT_TRUE(LoiterParamXml().parseXmlString(text, read));
+        expectRule(rule, read);
+    }
+}
+
 TEST(LoiterParamXml, ReplacesWhatTheRecordHeld)
 {
     CapturedOutput output;

@@ -71,6 +71,26 @@ TEST(MultiLoiterParamXml, ReadsNodes)
     EXPECT_EQ("", output.text());
 }
 
+TEST(MultiLoiterParamXml, TellsTheFlagsOfARegionApart)
+{
+    const std::vector<std::string> flags = {"TargetSizeConstrain", "IsAnalysisPath", "ForbiddenType"};
+    for (const std::string& flag : flags)
+    {
+        MultiLoiterParam rule = sample();
+        MultiLoiterRegionParam& region = rule.getMultiLoiterRegionParamList()[0];
+        region.setTargetSizeConstrain(flag == "TargetSizeConstrain");
+        region.setAnalysisPath(flag == "IsAnalysisPath");
+        region.setForbiddenType(flag == "ForbiddenType");
+
+        std::string text;
+        ASSERT_TRUE(MultiLoiterParamXml().createXmlString(rule, text));
+        EXPECT_EQ(withOneFlag(golden("analysis/MultiLoiterParamXml.node.xml"), flags, flag), text);
+        MultiLoiterParam read;
+        ASSERT_TRUE(MultiLoiterParamXml().parseXmlString(text, read));
+        expectRule(rule, read);
+    }
+}
+
 TEST(MultiLoiterParamXml, ReplacesWhatTheRecordHeld)
 {
     CapturedOutput output;

@@ -72,6 +72,25 @@ TEST(MultiTripWireParamXml, ReadsNodes)
     EXPECT_EQ("", output.text());
 }
 
+TEST(MultiTripWireParamXml, TellsTheFlagsOfARegionApart)
+{
+    const std::vector<std::string> flags = {"TargetTypeConstrain", "TargetSizeConstrain"};
+    for (const std::string& flag : flags)
+    {
+        MultiTripWireParam rule = sample();
+        MultiTripWireRegionParam& region = rule.getMultiTripWireRegionParamList()[0];
+        region.setTargetTypeConstrain(flag == "TargetTypeConstrain");
+        region.setTargetSizeConstrain(flag == "TargetSizeConstrain");
+
+        std::string text;
+        ASSERT_TRUE(MultiTripWireParamXml().createXmlString(rule, text));
+        EXPECT_EQ(withOneFlag(golden("analysis/MultiTripWireParamXml.node.xml"), flags, flag), text);
+        MultiTripWireParam read;
+        ASSERT_TRUE(MultiTripWireParamXml().parseXmlString(text, read));
+        expectRule(rule, read);
+    }
+}
+
 TEST(MultiTripWireParamXml, ReplacesWhatTheRecordHeld)
 {
     CapturedOutput output;
@@ -126,6 +145,16 @@ TEST(MultiTripWireParamXml, RefusesARegionThatIsNotWhole)
             << region;
         expectRule(sample(), read);
     }
+}
+
+TEST(MultiTripWireParamXml, RefusesALineOfAnotherName)
+{
+    MultiTripWireParam read = sample();
+    EXPECT_FALSE(MultiTripWireParamXml().parseXmlString(
+        "<MultiTripWireParam><RegionList><Region><LineList><LineCross /><Other /><LineCross /></LineList></Region>"
+        "</RegionList></MultiTripWireParam>",
+        read));
+    expectRule(sample(), read);
 }
 
 TEST(MultiTripWireParamXml, TakesTheFirstTwoLines)

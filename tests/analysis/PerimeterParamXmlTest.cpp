@@ -71,6 +71,26 @@ TEST(PerimeterParamXml, ReadsNodes)
     EXPECT_EQ("**************************************\n", output.text());
 }
 
+TEST(PerimeterParamXml, TellsTheFlagsOfARegionApart)
+{
+    CapturedOutput output;
+    const std::vector<std::string> flags = {"TargetTypeConstrain", "TargetSizeConstrain"};
+    for (const std::string& flag : flags)
+    {
+        PerimeterParam rule = sample();
+        PerimeterRegionParam& region = rule.getPerimeterRegionParamList()[0];
+        region.setTargetTypeConstrain(flag == "TargetTypeConstrain");
+        region.setTargetSizeConstrain(flag == "TargetSizeConstrain");
+
+        std::string text;
+        ASSERT_TRUE(PerimeterParamXml().createXmlString(rule, text));
+        EXPECT_EQ(withOneFlag(golden("analysis/PerimeterParamXml.node.xml"), flags, flag), text);
+        PerimeterParam read;
+        ASSERT_TRUE(PerimeterParamXml().parseXmlString(text, read));
+        expectRule(rule, read);
+    }
+}
+
 TEST(PerimeterParamXml, ReplacesWhatTheRecordHeld)
 {
     CapturedOutput output;

@@ -107,3 +107,15 @@ void addText(const std::string& text, SafePointer<DomainXmlNode>& node)
     ASSERT_TRUE(DomainXmlNode::parse(text, child));
     ASSERT_TRUE(node->addConfigNode(child));
 }
+
+std::string withOneFlag(std::string text, const std::vector<std::string>& flags, const std::string& flag)
+{
+    for (const std::string& other : flags)
+    {
+        const std::string set = " " + other + "=\"true\"";
+        const std::size_t at = text.find(set);
+        EXPECT_NE(std::string::npos, at) << other;
+        if (other != flag && at != std::string::npos) text.replace(at, set.size(), " " + other + "=\"false\"");
+    }
+    return text;
+}

@@ -4,6 +4,7 @@
 #include "domain/DomainXmlNode.h"
 
 #include <string>
+#include <vector>
 
 /// @file
 /// What rules embed, with a distinct value in every field.
@@ -26,3 +27,5 @@ void expectLinger(const LingerRegionParam& expected, const LingerRegionParam& re
 std::string textOf(const SafePointer<DomainXmlNode>& node);
 /// Adds the tree of @p text to @p node: how peers embed a document in another.
 void addText(const std::string& text, SafePointer<DomainXmlNode>& node);
+/// @p text, where all @p flags are true, with @p flag alone true.
+std::string withOneFlag(std::string text, const std::vector<std::string>& flags, const std::string& flag);

@@ -69,6 +69,26 @@ TEST(TripWireParamXml, ReadsNodes)
     EXPECT_EQ("", output.text());
 }
 
+TEST(TripWireParamXml, TellsTheFlagsOfARegionApart)
+{
+    const std::vector<std::string> flags = {"TargetTypeConstrain", "TargetSizeConstrain", "IsBidirection"};
+    for (const std::string& flag : flags)
+    {
+        TripWireParam rule = sample();
+        TripWireRegionParam& region = rule.getTripWireRegionParamList()[0];
+        region.setTargetTypeConstrain(flag == "TargetTypeConstrain");
+        region.setTargetSizeConstrain(flag == "TargetSizeConstrain");
+        region.setIsBidirection(flag == "IsBidirection");
+
+        std::string text;
+        ASSERT_TRUE(TripWireParamXml().createXmlString(rule, text));
+        EXPECT_EQ(withOneFlag(golden("analysis/TripWireParamXml.node.xml"), flags, flag), text);
+        TripWireParam read;
+        ASSERT_TRUE(TripWireParamXml().parseXmlString(text, read));
+        expectRule(rule, read);
+    }
+}
+
 TEST(TripWireParamXml, ReplacesWhatTheRecordHeld)
 {
     CapturedOutput output;
