@@ -8,8 +8,8 @@
 /// What the analysis libraries of a device can do: the "IntelligenceAnalyseAbility" document.
 ///
 /// Of what is missing, a library has the number -1 and pictures of 320 by 240, a function is disabled and has the
-/// library -1, and all else is 0, false or empty; without "Functions" the functions stay as they were. The reader
-/// prints a line for nearly all of it.
+/// library -1, and all else is 0, false or empty; without "LIBCommon" the libraries, without "Functions" the functions
+/// stay as they were. The reader prints a line for nearly all of it.
 class IntelligenceAnalyseAbilityXml : public IDomainXml
 {
 public:

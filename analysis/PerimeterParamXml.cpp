@@ -97,6 +97,7 @@ bool PerimeterParamXml::parseRule(const SafePointer<DomainXmlNode>& node, Perime
             return false;
         region.setDetectionAreaV2(cells);
         rule.getPerimeterRegionParamList().push_back(std::move(region));
+        // Peers' logs have this line behind the cells of each region.
         std::puts("**************************************");
     }
     return true;
