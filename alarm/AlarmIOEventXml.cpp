@@ -73,8 +73,7 @@ bool AlarmIOEventXml::readElement(const TiXmlElement& element, AlarmIOEvent& eve
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
     if (!frame::readActions(element, "AlarmRecordActionList", event.getAlarmRecordAction())) return false;
     if (!frame::readActions(element, "AlarmPTZActionList", event.getAlarmPTZAction())) return false;
-    if (!frame::readActions(element, "AlarmOverlayActionList", event.getAlarmOverlayAction())) return false;
-    return true;
+    return frame::readActions(element, "AlarmOverlayActionList", event.getAlarmOverlayAction());
 }
 
 bool AlarmIOEventXml::createDomainXmlNode(const AlarmIOEvent& event, SafePointer<DomainXmlNode>& node) const
@@ -100,8 +99,7 @@ bool AlarmIOEventXml::createDomainXmlNode(const AlarmIOEvent& event, SafePointer
     if (!frame::writeActions(overlays, event.getAlarmOverlayAction())) return false;
 
     SafePointer<DomainXmlNode> schedule = frame::appendNode(node, "ScheduleTimeParam");
-    if (!ScheduleTimeParamXml().createDomainXmlNode(event.getScheduleTimeParam(), schedule)) return false;
-    return true;
+    return ScheduleTimeParamXml().createDomainXmlNode(event.getScheduleTimeParam(), schedule);
 }
 
 bool AlarmIOEventXml::createDomainXmlNode(const std::vector<AlarmIOEvent>& events,

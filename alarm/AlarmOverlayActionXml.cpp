@@ -76,8 +76,7 @@ bool AlarmOverlayActionXml::createDomainXmlNode(const AlarmOverlayAction& action
     node->setProperty("CameraId", action.getCameraId());
 
     SafePointer<DomainXmlNode> child = frame::appendNode(node, "OSDInfo");
-    if (!OSDInfoXml().createDomainXmlNode(action.getOSDInfo(), child)) return false;
-    return true;
+    return OSDInfoXml().createDomainXmlNode(action.getOSDInfo(), child);
 }
 
 bool AlarmOverlayActionXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, AlarmOverlayAction& action) const

@@ -66,6 +66,5 @@ bool CameraMaskEventXml::readElement(const TiXmlElement& element, CameraMaskEven
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
     if (!frame::readActions(element, "AlarmRecordActionList", event.getAlarmRecordAction())) return false;
     if (!frame::readActions(element, "AlarmPTZActionList", event.getAlarmPTZAction())) return false;
-    if (!frame::readActions(element, "AlarmOverlayActionList", event.getAlarmOverlayAction())) return false;
-    return true;
+    return frame::readActions(element, "AlarmOverlayActionList", event.getAlarmOverlayAction());
 }

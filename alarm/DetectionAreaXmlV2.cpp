@@ -25,7 +25,7 @@ int encode(const DetectionAreaV2& area, std::string& text)
 
     int room = (length + 2) / 3 * 4 + 1;
     text.resize(static_cast<std::size_t>(room));
-    const int result = Base64Codecs::base64Encode(area.getData(), length, &text[0], room);
+    const int result = Base64Codecs::base64Encode(area.getData(), length, text.data(), room);
     text.resize(static_cast<std::size_t>(room));
     return result;
 }
@@ -34,7 +34,7 @@ void decode(const std::string& text, int length, DetectionAreaV2& area)
 {
     std::string bytes(text.size(), '\0');
     int decoded = static_cast<int>(bytes.size());
-    Base64Codecs::base64Decode(text.c_str(), static_cast<int>(text.size()), &bytes[0], decoded);
+    Base64Codecs::base64Decode(text.c_str(), static_cast<int>(text.size()), bytes.data(), decoded);
     area.setData(bytes.data(), std::min(length, decoded));
 }
 

@@ -100,8 +100,7 @@ bool DiskAlarmParamV2Xml::createDomainXmlNode(const DiskAlarmParamV2& param, Saf
     if (!frame::writeActions(outs, param.getAlarmOutAction())) return false;
 
     SafePointer<DomainXmlNode> ptzs = frame::appendNode(node, "AlarmPTZActionList");
-    if (!frame::writeActions(ptzs, param.getAlarmPTZAction())) return false;
-    return true;
+    return frame::writeActions(ptzs, param.getAlarmPTZAction());
 }
 
 bool DiskAlarmParamV2Xml::createDomainXmlNode(const std::vector<DiskAlarmParamV2>& params,

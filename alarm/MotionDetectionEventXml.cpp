@@ -91,6 +91,5 @@ bool MotionDetectionEventXml::readElement(const TiXmlElement& element, MotionDet
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
     if (!frame::readActions(element, "AlarmRecordActionList", event.getAlarmRecordAction())) return false;
     if (!frame::readActions(element, "AlarmPTZActionList", event.getAlarmPTZAction())) return false;
-    if (!frame::readActions(element, "AlarmOverlayActionList", event.getAlarmOverlayAction())) return false;
-    return true;
+    return frame::readActions(element, "AlarmOverlayActionList", event.getAlarmOverlayAction());
 }

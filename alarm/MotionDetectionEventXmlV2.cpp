@@ -73,8 +73,7 @@ bool readEvent(const TiXmlElement& element, MotionDetectionEventV2& event)
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
     if (!frame::readActions(element, "AlarmRecordActionList", event.getAlarmRecordAction())) return false;
     if (!frame::readActions(element, "AlarmPTZActionList", event.getAlarmPTZAction())) return false;
-    if (!frame::readActions(element, "AlarmOverlayActionList", event.getAlarmOverlayAction())) return false;
-    return true;
+    return frame::readActions(element, "AlarmOverlayActionList", event.getAlarmOverlayAction());
 }
 
 } // namespace

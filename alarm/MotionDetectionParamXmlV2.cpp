@@ -71,8 +71,7 @@ bool MotionDetectionParamXmlV2::createDomainXmlNode(const MotionDetectionParamV2
     node->setProperty("Sensitivity", param.getSensitivity());
 
     SafePointer<DomainXmlNode> child = frame::appendNode(node, "DetectionAreaV2");
-    if (!DetectionAreaXmlV2().createDomainXmlNode(param.getDetectionArea(), child)) return false;
-    return true;
+    return DetectionAreaXmlV2().createDomainXmlNode(param.getDetectionArea(), child);
 }
 
 bool MotionDetectionParamXmlV2::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node,

@@ -37,8 +37,7 @@ bool writeItem(const OcclusionDetectionEvent& event, SafePointer<DomainXmlNode>&
     if (!frame::writeActions(outs, event.getAlarmOutAction())) return false;
 
     SafePointer<DomainXmlNode> ptzs = frame::appendNode(node, "AlarmPTZActionList");
-    if (!frame::writeActions(ptzs, event.getAlarmPTZAction())) return false;
-    return true;
+    return frame::writeActions(ptzs, event.getAlarmPTZAction());
 }
 
 void readItem(const SafePointer<DomainXmlNode>& node, OcclusionDetectionEvent& event)
@@ -131,8 +130,7 @@ bool OcclusionDetectionEventXml::readElement(const TiXmlElement& element, Occlus
     }
 
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
-    if (!frame::readActions(element, "AlarmPTZActionList", event.getAlarmPTZAction())) return false;
-    return true;
+    return frame::readActions(element, "AlarmPTZActionList", event.getAlarmPTZAction());
 }
 
 bool OcclusionDetectionEventXml::createDomainXmlNode(const std::vector<OcclusionDetectionEvent>& events,

@@ -72,8 +72,7 @@ bool OcclusionDetectionParamXml::createDomainXmlNode(const OcclusionDetectionPar
     node->setProperty("Sensitivity", param.getSensitivity());
 
     SafePointer<DomainXmlNode> list = frame::appendNode(node, "DetectionAreaList");
-    if (!DetectionAreaXml().createDomainXmlNode(param.getDetectionArea(), list)) return false;
-    return true;
+    return DetectionAreaXml().createDomainXmlNode(param.getDetectionArea(), list);
 }
 
 bool OcclusionDetectionParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node,

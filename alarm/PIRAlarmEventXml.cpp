@@ -68,8 +68,7 @@ bool readEvent(const TiXmlElement& element, PIRAlarmEvent& event)
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
     if (!frame::readActions(element, "AlarmRecordActionList", event.getAlarmRecordAction())) return false;
     if (!frame::readActions(element, "AlarmPTZActionList", event.getAlarmPTZAction())) return false;
-    if (!frame::readActions(element, "AlarmOverlayActionList", event.getAlarmOverlayAction())) return false;
-    return true;
+    return frame::readActions(element, "AlarmOverlayActionList", event.getAlarmOverlayAction());
 }
 
 } // namespace
@@ -142,8 +141,7 @@ bool PIRAlarmEventXml::createDomainXmlNode(const PIRAlarmEvent& event, SafePoint
     if (!frame::writeActions(ptzs, event.getAlarmPTZAction())) return false;
 
     SafePointer<DomainXmlNode> overlays = frame::appendNode(node, "AlarmOverlayActionList");
-    if (!frame::writeActions(overlays, event.getAlarmOverlayAction())) return false;
-    return true;
+    return frame::writeActions(overlays, event.getAlarmOverlayAction());
 }
 
 bool PIRAlarmEventXml::createDomainXmlNode(const std::vector<PIRAlarmEvent>& events,

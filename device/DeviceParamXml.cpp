@@ -19,7 +19,7 @@ void setBytes(TiXmlElement& element, const char* name, const char* lengthName, c
     // Room for the terminating zero too.
     std::string text(static_cast<std::size_t>(length) * digitsPerByte + 1, '\0');
     int textLength = 0;
-    ByteCharConvert::convertByteToChar(&text[0], textLength, bytes, length);
+    ByteCharConvert::convertByteToChar(text.data(), textLength, bytes, length);
     text.resize(static_cast<std::size_t>(textLength));
     frame::setText(element, name, text);
     frame::setInt(element, lengthName, textLength);
