@@ -519,6 +519,7 @@ void parseLibCommonNode(const Node& root, IntelligenceAnalyseAbility& abilities)
     if (!libraries->getConfigNodeList("LIB", items))
         std::puts("IntelligenceAnalyseAbilityXml::parseLibCommonNode get LibCommonAbilityList Failed! Node List isn't "
                   "exist! ");
+    list.reserve(items.size());
     for (const Node& item : items)
         list.push_back(parseLib(item));
     abilities.getLibCommonAbilityList() = std::move(list);

@@ -72,7 +72,7 @@ bool MultiTripWireParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>&
         if (!parseLineCrossToDomainXmlNode(item, lines) || lines.size() < 2) return false;
         region.setTripWireLine1(lines[0]);
         region.setTripWireLine2(lines[1]);
-        read.getMultiTripWireRegionParamList().push_back(std::move(region));
+        read.getMultiTripWireRegionParamList().push_back(region);
     }
     param = std::move(read);
     return true;

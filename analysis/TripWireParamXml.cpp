@@ -65,7 +65,7 @@ bool TripWireParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node
         LineCross line;
         if (!parseLineCrossToDomainXmlNode(item, line)) return false;
         region.setLineCross(line);
-        read.getTripWireRegionParamList().push_back(std::move(region));
+        read.getTripWireRegionParamList().push_back(region);
     }
     param = std::move(read);
     return true;

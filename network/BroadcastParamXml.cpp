@@ -8,8 +8,6 @@
 
 #include "core/Frame.h"
 
-#include <utility>
-
 BroadcastParamXml::BroadcastParamXml() = default;
 
 BroadcastParamXml::~BroadcastParamXml() = default;
@@ -66,7 +64,7 @@ bool BroadcastParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& nod
     {
         BroadcastParam param;
         if (!parseDomainXmlNode(frame::nodeOf(*item), param)) return false;
-        params.push_back(std::move(param));
+        params.push_back(param);
     }
     return true;
 }
