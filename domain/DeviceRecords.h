@@ -2055,7 +2055,7 @@ public:
     }
     void addMotionDetectionAbility(MotionDetectionAbility motionDetectionAbility)
     {
-        motionDetectionAbilityList_.push_back(std::move(motionDetectionAbility));
+        motionDetectionAbilityList_.push_back(motionDetectionAbility);
     }
     /// @}
 
