@@ -10,10 +10,6 @@
 
 #include <utility>
 
-SMTPParamXml::SMTPParamXml() = default;
-
-SMTPParamXml::~SMTPParamXml() = default;
-
 bool SMTPParamXml::createDomainXmlNode(const SMTPParam& param, SafePointer<DomainXmlNode>& node) const
 {
     if (!node) return false;

@@ -13,9 +13,6 @@
 class SMTPParamXml
 {
 public:
-    SMTPParamXml();
-    ~SMTPParamXml();
-
     /// @name Node form
     /// See IDomainXml. Lists are appended to.
     /// @{

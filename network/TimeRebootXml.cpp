@@ -10,10 +10,6 @@
 #include <utility>
 #include <vector>
 
-TimeRebootXml::TimeRebootXml() = default;
-
-TimeRebootXml::~TimeRebootXml() = default;
-
 bool TimeRebootXml::createXmlString(const TimeRebootParam& param, std::string& text) const
 {
     SafePointer<DomainXmlNode> root = frame::makeNode("TimeRebootParam");

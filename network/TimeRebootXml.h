@@ -11,9 +11,6 @@
 class TimeRebootXml
 {
 public:
-    TimeRebootXml();
-    ~TimeRebootXml();
-
     bool createXmlString(const TimeRebootParam& param, std::string& text) const;
     bool parseXmlString(const std::string& text, TimeRebootParam& param) const;
 };
