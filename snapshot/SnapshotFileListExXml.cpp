@@ -65,7 +65,7 @@ TiXmlNode* SnapshotFileListExXml::createDeviceInfoXmlNode(TiXmlNode* list, const
     return &frame::appendGroup(*list, file.getDeviceId(), file.getDeviceIP(), file.getCameraId());
 }
 
-bool SnapshotFileListExXml::findNode(TiXmlNode* list, const std::string& deviceId, int cameraId, TiXmlNode*)
+bool SnapshotFileListExXml::findNode(TiXmlNode* list, const std::string& deviceId, int cameraId, TiXmlNode* /*group*/)
 {
     TiXmlElement* group = list != nullptr ? frame::groupOf(*list, deviceId, cameraId) : nullptr;
     if (group == nullptr) return false;

@@ -65,7 +65,7 @@ TiXmlNode* SnapshotFileListXml::createDeviceInfoXmlNode(TiXmlNode* list, const S
     return &frame::appendGroup(*list, file.getDeviceId(), file.getDeviceIP(), file.getCameraId());
 }
 
-bool SnapshotFileListXml::findNode(TiXmlNode* list, const std::string& deviceId, int cameraId, TiXmlNode*)
+bool SnapshotFileListXml::findNode(TiXmlNode* list, const std::string& deviceId, int cameraId, TiXmlNode* /*group*/)
 {
     TiXmlElement* group = list != nullptr ? frame::groupOf(*list, deviceId, cameraId) : nullptr;
     if (group == nullptr) return false;
