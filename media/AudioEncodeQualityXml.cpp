@@ -46,12 +46,14 @@ TiXmlElement& AudioEncodeQualityXml::writeElement(TiXmlNode& parent, const Audio
     return element;
 }
 
+// Both rates are written unsigned and read signed: the peers' document readers stop at the largest signed number, where
+// their node readers take the whole range.
 bool AudioEncodeQualityXml::readElement(const TiXmlElement& element, AudioEncodeQuality& quality)
 {
     quality.setFormatTag(frame::uint16Of(element, "FormatTag", 0));
     quality.setChannels(frame::uint16Of(element, "Channels", 0));
-    quality.setSamplesPerSec(frame::unsignedLongOf(element, "SamplesPerSec", 0));
-    quality.setAvgBytesPerSec(frame::unsignedLongOf(element, "AvgBytesPerSec", 0));
+    quality.setSamplesPerSec(static_cast<unsigned long>(frame::longOf(element, "SamplesPerSec", 0)));
+    quality.setAvgBytesPerSec(static_cast<unsigned long>(frame::longOf(element, "AvgBytesPerSec", 0)));
     quality.setBlockAlign(frame::uint16Of(element, "BlockAlign", 0));
     quality.setBitsPerSample(frame::uint16Of(element, "BitsPerSample", 0));
     quality.setCBSize(frame::uint16Of(element, "CBSize", 0));

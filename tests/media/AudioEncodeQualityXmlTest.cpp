@@ -3,6 +3,8 @@
 #include "tests/media/StreamSamples.h"
 #include "tests/support/Documents.h"
 
+#include <limits>
+
 TEST(AudioEncodeQualityXml, Writes)
 {
     AudioEncodeQualityXml codec;
@@ -80,6 +82,23 @@ TEST(AudioEncodeQualityXml, CarriesTheHighestRatesWhole)
     AudioEncodeQuality read;
     ASSERT_TRUE(AudioEncodeQualityXml().parseXmlString(text, read));
     expectAudioQuality(quality, read);
+}
+
+TEST(AudioEncodeQualityXml, ReadsRatesSignedInTheDocumentFormOnly)
+{
+    const std::string text =
+        "<AudioEncodeQuality SamplesPerSec='18446744073709551615' AvgBytesPerSec='9223372036854775808' />";
+    const unsigned long largest = static_cast<unsigned long>(std::numeric_limits<long long>::max());
+    AudioEncodeQualityXml codec;
+    ASSERT_TRUE(reads(codec, text));
+    EXPECT_EQ(largest, codec.getAudioEncodeQuality().getSamplesPerSec());
+    EXPECT_EQ(largest, codec.getAudioEncodeQuality().getAvgBytesPerSec());
+
+    CapturedOutput output;
+    AudioEncodeQuality read;
+    ASSERT_TRUE(AudioEncodeQualityXml().parseXmlString(text, read));
+    EXPECT_EQ(static_cast<unsigned long>(18446744073709551615ULL), read.getSamplesPerSec());
+    EXPECT_EQ(static_cast<unsigned long>(9223372036854775808ULL), read.getAvgBytesPerSec());
 }
 
 TEST(AudioEncodeQualityXml, NarrowsShortNumbers)

@@ -23,8 +23,9 @@ AudioEncodeQuality sampleAudioQuality(int first)
     AudioEncodeQuality quality;
     quality.setFormatTag(static_cast<std::uint16_t>(first));
     quality.setChannels(static_cast<std::uint16_t>(first + 1));
-    quality.setSamplesPerSec(static_cast<unsigned long>(first + 2));
-    quality.setAvgBytesPerSec(static_cast<unsigned long>(first + 3));
+    // Zeros behind the first digit: where a minus replaces that, the text still reads as a number that fits.
+    quality.setSamplesPerSec(static_cast<unsigned long>(first / 10 * 1000));
+    quality.setAvgBytesPerSec(static_cast<unsigned long>(first / 10 * 10000));
     quality.setBlockAlign(static_cast<std::uint16_t>(first + 4));
     quality.setBitsPerSample(static_cast<std::uint16_t>(first + 5));
     quality.setCBSize(static_cast<std::uint16_t>(first + 6));
