@@ -120,6 +120,8 @@ public:
     /// @}
     /// Appends a point.
     void addPoint(float x, float y) { vecPoints_.emplace_back(x, y); }
+    /// Removes all points.
+    void clear() { vecPoints_.clear(); }
 
 private:
     std::vector<ZTPoint> vecPoints_;

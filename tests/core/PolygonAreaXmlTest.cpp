@@ -37,3 +37,13 @@ TEST(PolygonAreaXml, TakesEveryElementForAPoint)
     EXPECT_EQ(0, area.getVecPoints()[1].getX());
     EXPECT_EQ(0, area.getVecPoints()[1].getY());
 }
+
+TEST(PolygonAreaXml, ReadsIntoAnAreaThatWasCleared)
+{
+    PolygonArea area;
+    area.addPoint(7, 8);
+    area.clear();
+    EXPECT_TRUE(area.getVecPoints().empty());
+    ASSERT_TRUE(PolygonAreaXml().parseXmlString(golden("core/PolygonAreaXml.list.xml"), area));
+    EXPECT_EQ(2U, area.getVecPoints().size());
+}
