@@ -42,7 +42,7 @@ AbnormalSpeedParamXml::AbnormalSpeedParamXml() = default;
 
 AbnormalSpeedParamXml::~AbnormalSpeedParamXml() = default;
 
-bool AbnormalSpeedParamXml::createDomainXmlNode(const AbnormalSpeedParam& param, SafePointer<DomainXmlNode>& node) const
+bool AbnormalSpeedParamXml::createDomainXmlNode(const AbnormalSpeedParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -50,7 +50,7 @@ bool AbnormalSpeedParamXml::createDomainXmlNode(const AbnormalSpeedParam& param,
     return createAbnormalSpeedRegionParamListToDomainXmlNode(param.getAbnormalSpeedRegionParamList(), node);
 }
 
-bool AbnormalSpeedParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, AbnormalSpeedParam& param) const
+bool AbnormalSpeedParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, AbnormalSpeedParam& param)
 {
     if (!node) return false;
 
@@ -71,20 +71,20 @@ bool AbnormalSpeedParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>&
     return true;
 }
 
-bool AbnormalSpeedParamXml::createXmlString(const AbnormalSpeedParam& param, std::string& text) const
+bool AbnormalSpeedParamXml::createXmlString(const AbnormalSpeedParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("AbnormalSpeedParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool AbnormalSpeedParamXml::parseXmlString(const std::string& text, AbnormalSpeedParam& param) const
+bool AbnormalSpeedParamXml::parseXmlString(const std::string& text, AbnormalSpeedParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "AbnormalSpeedParam", node) && parseDomainXmlNode(node, param);
 }
 
 bool AbnormalSpeedParamXml::createAbnormalSpeedRegionParamListToDomainXmlNode(
-    const std::vector<AbnormalSpeedRegionParam>& regions, SafePointer<DomainXmlNode>& node) const
+    const std::vector<AbnormalSpeedRegionParam>& regions, SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -98,14 +98,12 @@ bool AbnormalSpeedParamXml::createAbnormalSpeedRegionParamListToDomainXmlNode(
     return true;
 }
 
-bool AbnormalSpeedParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area,
-                                                             SafePointer<DomainXmlNode>& node) const
+bool AbnormalSpeedParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node)
 {
     return frame::appendPolygonArea(node, area);
 }
 
-bool AbnormalSpeedParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                            PolygonArea& area) const
+bool AbnormalSpeedParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area)
 {
     return frame::readPolygonArea(node, area);
 }

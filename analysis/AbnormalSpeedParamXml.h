@@ -21,20 +21,20 @@ public:
     /// @name Node form
     /// See IDomainXml.
     /// @{
-    bool createDomainXmlNode(const AbnormalSpeedParam& param, SafePointer<DomainXmlNode>& node) const;
-    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, AbnormalSpeedParam& param) const;
-    bool createXmlString(const AbnormalSpeedParam& param, std::string& text) const;
-    bool parseXmlString(const std::string& text, AbnormalSpeedParam& param) const;
+    bool createDomainXmlNode(const AbnormalSpeedParam& param, SafePointer<DomainXmlNode>& node);
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, AbnormalSpeedParam& param);
+    bool createXmlString(const AbnormalSpeedParam& param, std::string& text);
+    bool parseXmlString(const std::string& text, AbnormalSpeedParam& param);
     /// @}
 
     /// Adds the container "RegionList" with the regions to @p node. False if that is empty.
     bool createAbnormalSpeedRegionParamListToDomainXmlNode(const std::vector<AbnormalSpeedRegionParam>& regions,
-                                                           SafePointer<DomainXmlNode>& node) const;
+                                                           SafePointer<DomainXmlNode>& node);
 
     /// Adds the element "PolygonArealist" to @p node. False if that is empty.
-    bool createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node) const;
+    bool createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node);
     /// Reads the child "PolygonArealist" of @p node behind what @p area holds. False without it.
-    bool parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area) const;
+    bool parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area);
 
 private:
     // A rule is written and read as a whole: what the base does with its own part is hidden.

@@ -13,12 +13,12 @@ CameraMovedParamXml::CameraMovedParamXml() = default;
 
 CameraMovedParamXml::~CameraMovedParamXml() = default;
 
-bool CameraMovedParamXml::createDomainXmlNode(const CameraMovedParam& param, SafePointer<DomainXmlNode>& node) const
+bool CameraMovedParamXml::createDomainXmlNode(const CameraMovedParam& param, SafePointer<DomainXmlNode>& node)
 {
     return frame::appendBasePart(node, param);
 }
 
-bool CameraMovedParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, CameraMovedParam& param) const
+bool CameraMovedParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, CameraMovedParam& param)
 {
     if (!node) return false;
 
@@ -28,13 +28,13 @@ bool CameraMovedParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& n
     return true;
 }
 
-bool CameraMovedParamXml::createXmlString(const CameraMovedParam& param, std::string& text) const
+bool CameraMovedParamXml::createXmlString(const CameraMovedParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("CameraMovedParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool CameraMovedParamXml::parseXmlString(const std::string& text, CameraMovedParam& param) const
+bool CameraMovedParamXml::parseXmlString(const std::string& text, CameraMovedParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "CameraMovedParam", node) && parseDomainXmlNode(node, param);

@@ -18,10 +18,10 @@ public:
     /// @name Node form
     /// See IDomainXml.
     /// @{
-    bool createDomainXmlNode(const CameraMovedParam& param, SafePointer<DomainXmlNode>& node) const;
-    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, CameraMovedParam& param) const;
-    bool createXmlString(const CameraMovedParam& param, std::string& text) const;
-    bool parseXmlString(const std::string& text, CameraMovedParam& param) const;
+    bool createDomainXmlNode(const CameraMovedParam& param, SafePointer<DomainXmlNode>& node);
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, CameraMovedParam& param);
+    bool createXmlString(const CameraMovedParam& param, std::string& text);
+    bool parseXmlString(const std::string& text, CameraMovedParam& param);
     /// @}
 
 private:

@@ -13,7 +13,7 @@ CameraTamperParamXml::CameraTamperParamXml() = default;
 
 CameraTamperParamXml::~CameraTamperParamXml() = default;
 
-bool CameraTamperParamXml::createDomainXmlNode(const CameraTamperParam& param, SafePointer<DomainXmlNode>& node) const
+bool CameraTamperParamXml::createDomainXmlNode(const CameraTamperParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -21,7 +21,7 @@ bool CameraTamperParamXml::createDomainXmlNode(const CameraTamperParam& param, S
     return true;
 }
 
-bool CameraTamperParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, CameraTamperParam& param) const
+bool CameraTamperParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, CameraTamperParam& param)
 {
     if (!node) return false;
 
@@ -32,13 +32,13 @@ bool CameraTamperParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& 
     return true;
 }
 
-bool CameraTamperParamXml::createXmlString(const CameraTamperParam& param, std::string& text) const
+bool CameraTamperParamXml::createXmlString(const CameraTamperParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("CameraTamperParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool CameraTamperParamXml::parseXmlString(const std::string& text, CameraTamperParam& param) const
+bool CameraTamperParamXml::parseXmlString(const std::string& text, CameraTamperParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "CameraTamperParam", node) && parseDomainXmlNode(node, param);

@@ -18,10 +18,10 @@ public:
     /// @name Node form
     /// See IDomainXml.
     /// @{
-    bool createDomainXmlNode(const CameraTamperParam& param, SafePointer<DomainXmlNode>& node) const;
-    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, CameraTamperParam& param) const;
-    bool createXmlString(const CameraTamperParam& param, std::string& text) const;
-    bool parseXmlString(const std::string& text, CameraTamperParam& param) const;
+    bool createDomainXmlNode(const CameraTamperParam& param, SafePointer<DomainXmlNode>& node);
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, CameraTamperParam& param);
+    bool createXmlString(const CameraTamperParam& param, std::string& text);
+    bool parseXmlString(const std::string& text, CameraTamperParam& param);
     /// @}
 
 private:

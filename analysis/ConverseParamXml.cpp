@@ -38,7 +38,7 @@ ConverseParamXml::ConverseParamXml() = default;
 
 ConverseParamXml::~ConverseParamXml() = default;
 
-bool ConverseParamXml::createDomainXmlNode(const ConverseParam& param, SafePointer<DomainXmlNode>& node) const
+bool ConverseParamXml::createDomainXmlNode(const ConverseParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -46,7 +46,7 @@ bool ConverseParamXml::createDomainXmlNode(const ConverseParam& param, SafePoint
     return createConverseRegionParamListToDomainXmlNode(param.getConverseRegionParamList(), node);
 }
 
-bool ConverseParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, ConverseParam& param) const
+bool ConverseParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, ConverseParam& param)
 {
     if (!node) return false;
 
@@ -67,20 +67,20 @@ bool ConverseParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node
     return true;
 }
 
-bool ConverseParamXml::createXmlString(const ConverseParam& param, std::string& text) const
+bool ConverseParamXml::createXmlString(const ConverseParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("ConverseParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool ConverseParamXml::parseXmlString(const std::string& text, ConverseParam& param) const
+bool ConverseParamXml::parseXmlString(const std::string& text, ConverseParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "ConverseParam", node) && parseDomainXmlNode(node, param);
 }
 
 bool ConverseParamXml::createConverseRegionParamListToDomainXmlNode(const std::vector<ConverseRegionParam>& regions,
-                                                                    SafePointer<DomainXmlNode>& node) const
+                                                                    SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -94,12 +94,12 @@ bool ConverseParamXml::createConverseRegionParamListToDomainXmlNode(const std::v
     return true;
 }
 
-bool ConverseParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node) const
+bool ConverseParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node)
 {
     return frame::appendPolygonArea(node, area);
 }
 
-bool ConverseParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area) const
+bool ConverseParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area)
 {
     return frame::readPolygonArea(node, area);
 }

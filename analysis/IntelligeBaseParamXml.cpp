@@ -57,20 +57,20 @@ IntelligeBaseParamXml::IntelligeBaseParamXml() = default;
 
 IntelligeBaseParamXml::~IntelligeBaseParamXml() = default;
 
-bool IntelligeBaseParamXml::parseXmlString(const std::string& text, IntelligeBaseParam& param) const
+bool IntelligeBaseParamXml::parseXmlString(const std::string& text, IntelligeBaseParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "IntelligeBaseParam", node) &&
            IntelligeBaseParamXml::parseDomainXmlNode(node, param);
 }
 
-bool IntelligeBaseParamXml::createXmlString(const IntelligeBaseParam& param, std::string& text) const
+bool IntelligeBaseParamXml::createXmlString(const IntelligeBaseParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("IntelligeBaseParam");
     return IntelligeBaseParamXml::createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool IntelligeBaseParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, IntelligeBaseParam& param) const
+bool IntelligeBaseParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, IntelligeBaseParam& param)
 {
     if (!node) return false;
 
@@ -101,7 +101,7 @@ bool IntelligeBaseParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>&
 }
 
 // The lists stand in an order of their own: peers of the event policies have the records before the PTZ.
-bool IntelligeBaseParamXml::createDomainXmlNode(const IntelligeBaseParam& param, SafePointer<DomainXmlNode>& node) const
+bool IntelligeBaseParamXml::createDomainXmlNode(const IntelligeBaseParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -117,7 +117,7 @@ bool IntelligeBaseParamXml::createDomainXmlNode(const IntelligeBaseParam& param,
 }
 
 bool IntelligeBaseParamXml::createAlarmOutActionToDomainXmlNode(const AlarmOutAction& action,
-                                                                SafePointer<DomainXmlNode>& node) const
+                                                                SafePointer<DomainXmlNode>& node)
 {
     TiXmlElement* parent = elementOf(node);
     if (parent == nullptr) return false;
@@ -127,7 +127,7 @@ bool IntelligeBaseParamXml::createAlarmOutActionToDomainXmlNode(const AlarmOutAc
 }
 
 bool IntelligeBaseParamXml::createAlarmPTZActionToDomainXmlNode(const AlarmPTZAction& action,
-                                                                SafePointer<DomainXmlNode>& node) const
+                                                                SafePointer<DomainXmlNode>& node)
 {
     TiXmlElement* parent = elementOf(node);
     if (parent == nullptr) return false;
@@ -137,7 +137,7 @@ bool IntelligeBaseParamXml::createAlarmPTZActionToDomainXmlNode(const AlarmPTZAc
 }
 
 bool IntelligeBaseParamXml::createAlarmRecordActionToDomainXmlNode(const AlarmRecordAction& action,
-                                                                   SafePointer<DomainXmlNode>& node) const
+                                                                   SafePointer<DomainXmlNode>& node)
 {
     TiXmlElement* parent = elementOf(node);
     if (parent == nullptr) return false;
@@ -147,7 +147,7 @@ bool IntelligeBaseParamXml::createAlarmRecordActionToDomainXmlNode(const AlarmRe
 }
 
 bool IntelligeBaseParamXml::createAlarmOverlayActionToDomainXmlNode(const AlarmOverlayAction& action,
-                                                                    SafePointer<DomainXmlNode>& node) const
+                                                                    SafePointer<DomainXmlNode>& node)
 {
     TiXmlElement* parent = elementOf(node);
     if (parent == nullptr) return false;
@@ -157,7 +157,7 @@ bool IntelligeBaseParamXml::createAlarmOverlayActionToDomainXmlNode(const AlarmO
 }
 
 bool IntelligeBaseParamXml::createScheduleTimeParamFromDomainXmlNode(const ScheduleTimeParam& schedule,
-                                                                     SafePointer<DomainXmlNode>& node) const
+                                                                     SafePointer<DomainXmlNode>& node)
 {
     TiXmlElement* parent = elementOf(node);
     if (parent == nullptr) return false;
@@ -167,7 +167,7 @@ bool IntelligeBaseParamXml::createScheduleTimeParamFromDomainXmlNode(const Sched
 }
 
 bool IntelligeBaseParamXml::createAlarmOutActionListToDomainXmlNode(const std::vector<AlarmOutAction>& actions,
-                                                                    SafePointer<DomainXmlNode>& node) const
+                                                                    SafePointer<DomainXmlNode>& node)
 {
     TiXmlElement* parent = elementOf(node);
     if (parent == nullptr) return false;
@@ -177,7 +177,7 @@ bool IntelligeBaseParamXml::createAlarmOutActionListToDomainXmlNode(const std::v
 }
 
 bool IntelligeBaseParamXml::createAlarmPTZActionListToDomainXmlNode(const std::vector<AlarmPTZAction>& actions,
-                                                                    SafePointer<DomainXmlNode>& node) const
+                                                                    SafePointer<DomainXmlNode>& node)
 {
     TiXmlElement* parent = elementOf(node);
     if (parent == nullptr) return false;
@@ -187,7 +187,7 @@ bool IntelligeBaseParamXml::createAlarmPTZActionListToDomainXmlNode(const std::v
 }
 
 bool IntelligeBaseParamXml::createAlarmRecordActionListToDomainXmlNode(const std::vector<AlarmRecordAction>& actions,
-                                                                       SafePointer<DomainXmlNode>& node) const
+                                                                       SafePointer<DomainXmlNode>& node)
 {
     TiXmlElement* parent = elementOf(node);
     if (parent == nullptr) return false;
@@ -197,7 +197,7 @@ bool IntelligeBaseParamXml::createAlarmRecordActionListToDomainXmlNode(const std
 }
 
 bool IntelligeBaseParamXml::createAlarmOverlayActionListToDomainXmlNode(const std::vector<AlarmOverlayAction>& actions,
-                                                                        SafePointer<DomainXmlNode>& node) const
+                                                                        SafePointer<DomainXmlNode>& node)
 {
     TiXmlElement* parent = elementOf(node);
     if (parent == nullptr) return false;
@@ -207,7 +207,7 @@ bool IntelligeBaseParamXml::createAlarmOverlayActionListToDomainXmlNode(const st
 }
 
 bool IntelligeBaseParamXml::parseAlarmOutActionFromDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                                 AlarmOutAction& action) const
+                                                                 AlarmOutAction& action)
 {
     const TiXmlElement* element = elementOf(node, "AlarmOutAction");
     AlarmOutAction read;
@@ -218,7 +218,7 @@ bool IntelligeBaseParamXml::parseAlarmOutActionFromDomainXmlNode(const SafePoint
 }
 
 bool IntelligeBaseParamXml::parseAlarmPTZActionFromDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                                 AlarmPTZAction& action) const
+                                                                 AlarmPTZAction& action)
 {
     const TiXmlElement* element = elementOf(node, "AlarmPTZAction");
     AlarmPTZAction read;
@@ -229,7 +229,7 @@ bool IntelligeBaseParamXml::parseAlarmPTZActionFromDomainXmlNode(const SafePoint
 }
 
 bool IntelligeBaseParamXml::parseAlarmRecordActionFromDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                                    AlarmRecordAction& action) const
+                                                                    AlarmRecordAction& action)
 {
     const TiXmlElement* element = elementOf(node, "AlarmRecordAction");
     AlarmRecordAction read;
@@ -240,7 +240,7 @@ bool IntelligeBaseParamXml::parseAlarmRecordActionFromDomainXmlNode(const SafePo
 }
 
 bool IntelligeBaseParamXml::parseAlarmOverlayActionFromDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                                     AlarmOverlayAction& action) const
+                                                                     AlarmOverlayAction& action)
 {
     const TiXmlElement* element = elementOf(node, "AlarmOverlayAction");
     AlarmOverlayAction read;
@@ -251,7 +251,7 @@ bool IntelligeBaseParamXml::parseAlarmOverlayActionFromDomainXmlNode(const SafeP
 }
 
 bool IntelligeBaseParamXml::parseScheduleTimeParamFromDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                                    ScheduleTimeParam& schedule) const
+                                                                    ScheduleTimeParam& schedule)
 {
     const TiXmlElement* element = elementOf(node, "ScheduleTimeParam");
     ScheduleTimeParam read;
@@ -262,7 +262,7 @@ bool IntelligeBaseParamXml::parseScheduleTimeParamFromDomainXmlNode(const SafePo
 }
 
 bool IntelligeBaseParamXml::parseAlarmOutActionListFromDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                                     std::vector<AlarmOutAction>& actions) const
+                                                                     std::vector<AlarmOutAction>& actions)
 {
     const TiXmlElement* item = nullptr;
     if (!firstItem(node, "AlarmOutAction", item)) return false;
@@ -277,7 +277,7 @@ bool IntelligeBaseParamXml::parseAlarmOutActionListFromDomainXmlNode(const SafeP
 }
 
 bool IntelligeBaseParamXml::parseAlarmPTZActionListFromDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                                     std::vector<AlarmPTZAction>& actions) const
+                                                                     std::vector<AlarmPTZAction>& actions)
 {
     const TiXmlElement* item = nullptr;
     if (!firstItem(node, "AlarmPTZAction", item)) return false;
@@ -292,7 +292,7 @@ bool IntelligeBaseParamXml::parseAlarmPTZActionListFromDomainXmlNode(const SafeP
 }
 
 bool IntelligeBaseParamXml::parseAlarmRecordActionListFromDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                                        std::vector<AlarmRecordAction>& actions) const
+                                                                        std::vector<AlarmRecordAction>& actions)
 {
     const TiXmlElement* item = nullptr;
     if (!firstItem(node, "AlarmRecordAction", item)) return false;
@@ -307,7 +307,7 @@ bool IntelligeBaseParamXml::parseAlarmRecordActionListFromDomainXmlNode(const Sa
 }
 
 bool IntelligeBaseParamXml::parseAlarmOverlayActionListFromDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                                         std::vector<AlarmOverlayAction>& actions) const
+                                                                         std::vector<AlarmOverlayAction>& actions)
 {
     const TiXmlElement* item = nullptr;
     if (!firstItem(node, "AlarmOverlayAction", item)) return false;

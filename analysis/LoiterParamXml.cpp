@@ -40,7 +40,7 @@ LoiterParamXml::LoiterParamXml() = default;
 
 LoiterParamXml::~LoiterParamXml() = default;
 
-bool LoiterParamXml::createDomainXmlNode(const LoiterParam& param, SafePointer<DomainXmlNode>& node) const
+bool LoiterParamXml::createDomainXmlNode(const LoiterParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -48,7 +48,7 @@ bool LoiterParamXml::createDomainXmlNode(const LoiterParam& param, SafePointer<D
     return createLoiterRegionParamListToDomainXmlNode(param.getLoiterRegionParamList(), node);
 }
 
-bool LoiterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, LoiterParam& param) const
+bool LoiterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, LoiterParam& param)
 {
     if (!node) return false;
 
@@ -69,20 +69,20 @@ bool LoiterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, 
     return true;
 }
 
-bool LoiterParamXml::createXmlString(const LoiterParam& param, std::string& text) const
+bool LoiterParamXml::createXmlString(const LoiterParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("LoiterParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool LoiterParamXml::parseXmlString(const std::string& text, LoiterParam& param) const
+bool LoiterParamXml::parseXmlString(const std::string& text, LoiterParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "LoiterParam", node) && parseDomainXmlNode(node, param);
 }
 
 bool LoiterParamXml::createLoiterRegionParamListToDomainXmlNode(const std::vector<LoiterRegionParam>& regions,
-                                                                SafePointer<DomainXmlNode>& node) const
+                                                                SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -96,12 +96,12 @@ bool LoiterParamXml::createLoiterRegionParamListToDomainXmlNode(const std::vecto
     return true;
 }
 
-bool LoiterParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node) const
+bool LoiterParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node)
 {
     return frame::appendPolygonArea(node, area);
 }
 
-bool LoiterParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area) const
+bool LoiterParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area)
 {
     return frame::readPolygonArea(node, area);
 }

@@ -14,7 +14,7 @@ MotionDetectionParamV3Xml::MotionDetectionParamV3Xml() = default;
 
 MotionDetectionParamV3Xml::~MotionDetectionParamV3Xml() = default;
 
-bool MotionDetectionParamV3Xml::createXmlString(const MotionDetectionParamV3& param, std::string& text) const
+bool MotionDetectionParamV3Xml::createXmlString(const MotionDetectionParamV3& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("MotionDetectionParamV3");
     if (!frame::appendBasePart(node, param)) return false;
@@ -24,7 +24,7 @@ bool MotionDetectionParamV3Xml::createXmlString(const MotionDetectionParamV3& pa
            DomainXmlNode::toString(node, text);
 }
 
-bool MotionDetectionParamV3Xml::parseXmlString(const std::string& text, MotionDetectionParamV3& param) const
+bool MotionDetectionParamV3Xml::parseXmlString(const std::string& text, MotionDetectionParamV3& param)
 {
     SafePointer<DomainXmlNode> node;
     if (!DomainXmlNode::parse(text, "MotionDetectionParamV3", node)) return false;
@@ -40,13 +40,13 @@ bool MotionDetectionParamV3Xml::parseXmlString(const std::string& text, MotionDe
 }
 
 bool MotionDetectionParamV3Xml::createDetectionAreaV2ToDomainXmlNode(const DetectionAreaV2& area,
-                                                                     SafePointer<DomainXmlNode>& node) const
+                                                                     SafePointer<DomainXmlNode>& node)
 {
     return frame::appendDetectionAreaV2(node, area);
 }
 
 bool MotionDetectionParamV3Xml::parseDetectionAreaV2ToDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                                    DetectionAreaV2& area) const
+                                                                    DetectionAreaV2& area)
 {
     return frame::readDetectionAreaV2(node, area);
 }

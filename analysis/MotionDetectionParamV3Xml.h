@@ -18,13 +18,13 @@ public:
     MotionDetectionParamV3Xml();
     ~MotionDetectionParamV3Xml() override;
 
-    bool createXmlString(const MotionDetectionParamV3& param, std::string& text) const;
-    bool parseXmlString(const std::string& text, MotionDetectionParamV3& param) const;
+    bool createXmlString(const MotionDetectionParamV3& param, std::string& text);
+    bool parseXmlString(const std::string& text, MotionDetectionParamV3& param);
 
     /// Adds the element "DetectionAreaV2" to @p node. False if that is empty, or if the cells cannot be written.
-    bool createDetectionAreaV2ToDomainXmlNode(const DetectionAreaV2& area, SafePointer<DomainXmlNode>& node) const;
+    bool createDetectionAreaV2ToDomainXmlNode(const DetectionAreaV2& area, SafePointer<DomainXmlNode>& node);
     /// Reads the child "DetectionAreaV2" of @p node. False without it.
-    bool parseDetectionAreaV2ToDomainXmlNode(const SafePointer<DomainXmlNode>& node, DetectionAreaV2& area) const;
+    bool parseDetectionAreaV2ToDomainXmlNode(const SafePointer<DomainXmlNode>& node, DetectionAreaV2& area);
 
 private:
     // A rule is written and read as a whole: what the base does with its own part is hidden.

@@ -50,7 +50,7 @@ MultiLoiterParamXml::MultiLoiterParamXml() = default;
 
 MultiLoiterParamXml::~MultiLoiterParamXml() = default;
 
-bool MultiLoiterParamXml::createDomainXmlNode(const MultiLoiterParam& param, SafePointer<DomainXmlNode>& node) const
+bool MultiLoiterParamXml::createDomainXmlNode(const MultiLoiterParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -58,7 +58,7 @@ bool MultiLoiterParamXml::createDomainXmlNode(const MultiLoiterParam& param, Saf
     return createMultiLoiterRegionParamListToDomainXmlNode(param.getMultiLoiterRegionParamList(), node);
 }
 
-bool MultiLoiterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, MultiLoiterParam& param) const
+bool MultiLoiterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, MultiLoiterParam& param)
 {
     if (!node) return false;
 
@@ -79,20 +79,20 @@ bool MultiLoiterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& n
     return true;
 }
 
-bool MultiLoiterParamXml::createXmlString(const MultiLoiterParam& param, std::string& text) const
+bool MultiLoiterParamXml::createXmlString(const MultiLoiterParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("MultiLoiterParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool MultiLoiterParamXml::parseXmlString(const std::string& text, MultiLoiterParam& param) const
+bool MultiLoiterParamXml::parseXmlString(const std::string& text, MultiLoiterParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "MultiLoiterParam", node) && parseDomainXmlNode(node, param);
 }
 
 bool MultiLoiterParamXml::createMultiLoiterRegionParamListToDomainXmlNode(
-    const std::vector<MultiLoiterRegionParam>& regions, SafePointer<DomainXmlNode>& node) const
+    const std::vector<MultiLoiterRegionParam>& regions, SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -106,14 +106,12 @@ bool MultiLoiterParamXml::createMultiLoiterRegionParamListToDomainXmlNode(
     return true;
 }
 
-bool MultiLoiterParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area,
-                                                           SafePointer<DomainXmlNode>& node) const
+bool MultiLoiterParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node)
 {
     return frame::appendPolygonArea(node, area);
 }
 
-bool MultiLoiterParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                          PolygonArea& area) const
+bool MultiLoiterParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area)
 {
     return frame::readPolygonArea(node, area);
 }

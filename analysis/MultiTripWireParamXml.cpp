@@ -46,7 +46,7 @@ MultiTripWireParamXml::MultiTripWireParamXml() = default;
 
 MultiTripWireParamXml::~MultiTripWireParamXml() = default;
 
-bool MultiTripWireParamXml::createDomainXmlNode(const MultiTripWireParam& param, SafePointer<DomainXmlNode>& node) const
+bool MultiTripWireParamXml::createDomainXmlNode(const MultiTripWireParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -54,7 +54,7 @@ bool MultiTripWireParamXml::createDomainXmlNode(const MultiTripWireParam& param,
     return createMultiTripWireRegionParamListToDomainXmlNode(param.getMultiTripWireRegionParamList(), node);
 }
 
-bool MultiTripWireParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, MultiTripWireParam& param) const
+bool MultiTripWireParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, MultiTripWireParam& param)
 {
     if (!node) return false;
 
@@ -78,20 +78,20 @@ bool MultiTripWireParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>&
     return true;
 }
 
-bool MultiTripWireParamXml::createXmlString(const MultiTripWireParam& param, std::string& text) const
+bool MultiTripWireParamXml::createXmlString(const MultiTripWireParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("MultiTripWireParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool MultiTripWireParamXml::parseXmlString(const std::string& text, MultiTripWireParam& param) const
+bool MultiTripWireParamXml::parseXmlString(const std::string& text, MultiTripWireParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "MultiTripWireParam", node) && parseDomainXmlNode(node, param);
 }
 
 bool MultiTripWireParamXml::createMultiTripWireRegionParamListToDomainXmlNode(
-    const std::vector<MultiTripWireRegionParam>& regions, SafePointer<DomainXmlNode>& node) const
+    const std::vector<MultiTripWireRegionParam>& regions, SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -106,7 +106,7 @@ bool MultiTripWireParamXml::createMultiTripWireRegionParamListToDomainXmlNode(
 }
 
 bool MultiTripWireParamXml::createLineCrossToDomainXmlNode(const LineCross& first, const LineCross& second,
-                                                           SafePointer<DomainXmlNode>& node) const
+                                                           SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -115,7 +115,7 @@ bool MultiTripWireParamXml::createLineCrossToDomainXmlNode(const LineCross& firs
 }
 
 bool MultiTripWireParamXml::parseLineCrossToDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                          std::vector<LineCross>& lines) const
+                                                          std::vector<LineCross>& lines)
 {
     SafePointer<DomainXmlNode> list;
     if (!node || !node->getConfigNode("LineList", list)) return false;

@@ -21,22 +21,22 @@ public:
     /// @name Node form
     /// See IDomainXml.
     /// @{
-    bool createDomainXmlNode(const MultiTripWireParam& param, SafePointer<DomainXmlNode>& node) const;
-    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, MultiTripWireParam& param) const;
-    bool createXmlString(const MultiTripWireParam& param, std::string& text) const;
-    bool parseXmlString(const std::string& text, MultiTripWireParam& param) const;
+    bool createDomainXmlNode(const MultiTripWireParam& param, SafePointer<DomainXmlNode>& node);
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, MultiTripWireParam& param);
+    bool createXmlString(const MultiTripWireParam& param, std::string& text);
+    bool parseXmlString(const std::string& text, MultiTripWireParam& param);
     /// @}
 
     /// Adds the container "RegionList" with the regions to @p node. False if that is empty.
     bool createMultiTripWireRegionParamListToDomainXmlNode(const std::vector<MultiTripWireRegionParam>& regions,
-                                                           SafePointer<DomainXmlNode>& node) const;
+                                                           SafePointer<DomainXmlNode>& node);
 
     /// Adds the container "LineList" with the two lines to @p node. False if that is empty.
     bool createLineCrossToDomainXmlNode(const LineCross& first, const LineCross& second,
-                                        SafePointer<DomainXmlNode>& node) const;
+                                        SafePointer<DomainXmlNode>& node);
     /// Appends all children of the child "LineList" of @p node to @p lines. False without it, or at one that is no
     /// "LineCross".
-    bool parseLineCrossToDomainXmlNode(const SafePointer<DomainXmlNode>& node, std::vector<LineCross>& lines) const;
+    bool parseLineCrossToDomainXmlNode(const SafePointer<DomainXmlNode>& node, std::vector<LineCross>& lines);
 
 private:
     // A rule is written and read as a whole: what the base does with its own part is hidden.

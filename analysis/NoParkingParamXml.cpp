@@ -35,7 +35,7 @@ NoParkingParamXml::NoParkingParamXml() = default;
 
 NoParkingParamXml::~NoParkingParamXml() = default;
 
-bool NoParkingParamXml::createDomainXmlNode(const NoParkingParam& param, SafePointer<DomainXmlNode>& node) const
+bool NoParkingParamXml::createDomainXmlNode(const NoParkingParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -43,7 +43,7 @@ bool NoParkingParamXml::createDomainXmlNode(const NoParkingParam& param, SafePoi
     return createNoParkingRegionParamListToDomainXmlNode(param.getNoParkingRegionParamList(), node);
 }
 
-bool NoParkingParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, NoParkingParam& param) const
+bool NoParkingParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, NoParkingParam& param)
 {
     if (!node) return false;
 
@@ -64,20 +64,20 @@ bool NoParkingParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& nod
     return true;
 }
 
-bool NoParkingParamXml::createXmlString(const NoParkingParam& param, std::string& text) const
+bool NoParkingParamXml::createXmlString(const NoParkingParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("NoParkingParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool NoParkingParamXml::parseXmlString(const std::string& text, NoParkingParam& param) const
+bool NoParkingParamXml::parseXmlString(const std::string& text, NoParkingParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "NoParkingParam", node) && parseDomainXmlNode(node, param);
 }
 
 bool NoParkingParamXml::createNoParkingRegionParamListToDomainXmlNode(const std::vector<NoParkingRegionParam>& regions,
-                                                                      SafePointer<DomainXmlNode>& node) const
+                                                                      SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -91,13 +91,12 @@ bool NoParkingParamXml::createNoParkingRegionParamListToDomainXmlNode(const std:
     return true;
 }
 
-bool NoParkingParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area,
-                                                         SafePointer<DomainXmlNode>& node) const
+bool NoParkingParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node)
 {
     return frame::appendPolygonArea(node, area);
 }
 
-bool NoParkingParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area) const
+bool NoParkingParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area)
 {
     return frame::readPolygonArea(node, area);
 }

@@ -35,7 +35,7 @@ ObjectLeftParamXml::ObjectLeftParamXml() = default;
 
 ObjectLeftParamXml::~ObjectLeftParamXml() = default;
 
-bool ObjectLeftParamXml::createDomainXmlNode(const ObjectLeftParam& param, SafePointer<DomainXmlNode>& node) const
+bool ObjectLeftParamXml::createDomainXmlNode(const ObjectLeftParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -43,7 +43,7 @@ bool ObjectLeftParamXml::createDomainXmlNode(const ObjectLeftParam& param, SafeP
     return createObjectLeftRegionParamListToDomainXmlNode(param.getObjectLeftRegionParamList(), node);
 }
 
-bool ObjectLeftParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, ObjectLeftParam& param) const
+bool ObjectLeftParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, ObjectLeftParam& param)
 {
     if (!node) return false;
 
@@ -64,20 +64,20 @@ bool ObjectLeftParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& no
     return true;
 }
 
-bool ObjectLeftParamXml::createXmlString(const ObjectLeftParam& param, std::string& text) const
+bool ObjectLeftParamXml::createXmlString(const ObjectLeftParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("ObjectLeftParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool ObjectLeftParamXml::parseXmlString(const std::string& text, ObjectLeftParam& param) const
+bool ObjectLeftParamXml::parseXmlString(const std::string& text, ObjectLeftParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "ObjectLeftParam", node) && parseDomainXmlNode(node, param);
 }
 
 bool ObjectLeftParamXml::createObjectLeftRegionParamListToDomainXmlNode(
-    const std::vector<ObjectLeftRegionParam>& regions, SafePointer<DomainXmlNode>& node) const
+    const std::vector<ObjectLeftRegionParam>& regions, SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -91,14 +91,12 @@ bool ObjectLeftParamXml::createObjectLeftRegionParamListToDomainXmlNode(
     return true;
 }
 
-bool ObjectLeftParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area,
-                                                          SafePointer<DomainXmlNode>& node) const
+bool ObjectLeftParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node)
 {
     return frame::appendPolygonArea(node, area);
 }
 
-bool ObjectLeftParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                         PolygonArea& area) const
+bool ObjectLeftParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area)
 {
     return frame::readPolygonArea(node, area);
 }

@@ -35,7 +35,7 @@ ObjectMovedParamXml::ObjectMovedParamXml() = default;
 
 ObjectMovedParamXml::~ObjectMovedParamXml() = default;
 
-bool ObjectMovedParamXml::createDomainXmlNode(const ObjectMovedParam& param, SafePointer<DomainXmlNode>& node) const
+bool ObjectMovedParamXml::createDomainXmlNode(const ObjectMovedParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -43,7 +43,7 @@ bool ObjectMovedParamXml::createDomainXmlNode(const ObjectMovedParam& param, Saf
     return createObjectMovedRegionParamListToDomainXmlNode(param.getObjectMovedRegionParamList(), node);
 }
 
-bool ObjectMovedParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, ObjectMovedParam& param) const
+bool ObjectMovedParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, ObjectMovedParam& param)
 {
     if (!node) return false;
 
@@ -64,20 +64,20 @@ bool ObjectMovedParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& n
     return true;
 }
 
-bool ObjectMovedParamXml::createXmlString(const ObjectMovedParam& param, std::string& text) const
+bool ObjectMovedParamXml::createXmlString(const ObjectMovedParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("ObjectMovedParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool ObjectMovedParamXml::parseXmlString(const std::string& text, ObjectMovedParam& param) const
+bool ObjectMovedParamXml::parseXmlString(const std::string& text, ObjectMovedParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "ObjectMovedParam", node) && parseDomainXmlNode(node, param);
 }
 
 bool ObjectMovedParamXml::createObjectMovedRegionParamListToDomainXmlNode(
-    const std::vector<ObjectMovedRegionParam>& regions, SafePointer<DomainXmlNode>& node) const
+    const std::vector<ObjectMovedRegionParam>& regions, SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -91,14 +91,12 @@ bool ObjectMovedParamXml::createObjectMovedRegionParamListToDomainXmlNode(
     return true;
 }
 
-bool ObjectMovedParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area,
-                                                           SafePointer<DomainXmlNode>& node) const
+bool ObjectMovedParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node)
 {
     return frame::appendPolygonArea(node, area);
 }
 
-bool ObjectMovedParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                          PolygonArea& area) const
+bool ObjectMovedParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area)
 {
     return frame::readPolygonArea(node, area);
 }

@@ -40,7 +40,7 @@ PerimeterParamXml::PerimeterParamXml() = default;
 
 PerimeterParamXml::~PerimeterParamXml() = default;
 
-bool PerimeterParamXml::createDomainXmlNode(const PerimeterParam& param, SafePointer<DomainXmlNode>& node) const
+bool PerimeterParamXml::createDomainXmlNode(const PerimeterParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -48,7 +48,7 @@ bool PerimeterParamXml::createDomainXmlNode(const PerimeterParam& param, SafePoi
     return createPerimeterRegionParamListToDomainXmlNode(param.getPerimeterRegionParamList(), node);
 }
 
-bool PerimeterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, PerimeterParam& param) const
+bool PerimeterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, PerimeterParam& param)
 {
     if (!node) return false;
 
@@ -62,13 +62,13 @@ bool PerimeterParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& nod
     return true;
 }
 
-bool PerimeterParamXml::createXmlString(const PerimeterParam& param, std::string& text) const
+bool PerimeterParamXml::createXmlString(const PerimeterParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("PerimeterParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool PerimeterParamXml::parseXmlString(const std::string& text, PerimeterParam& param) const
+bool PerimeterParamXml::parseXmlString(const std::string& text, PerimeterParam& param)
 {
     SafePointer<DomainXmlNode> node;
     if (!DomainXmlNode::parse(text, "PerimeterParam", node)) return false;
@@ -81,7 +81,7 @@ bool PerimeterParamXml::parseXmlString(const std::string& text, PerimeterParam& 
     return true;
 }
 
-bool PerimeterParamXml::parseRule(const SafePointer<DomainXmlNode>& node, PerimeterParam& rule) const
+bool PerimeterParamXml::parseRule(const SafePointer<DomainXmlNode>& node, PerimeterParam& rule)
 {
     rule.setIsGetDetail(frame::flagProperty(node, "IsGetDetail", false));
 
@@ -104,7 +104,7 @@ bool PerimeterParamXml::parseRule(const SafePointer<DomainXmlNode>& node, Perime
 }
 
 bool PerimeterParamXml::createPerimeterRegionParamListToDomainXmlNode(const std::vector<PerimeterRegionParam>& regions,
-                                                                      SafePointer<DomainXmlNode>& node) const
+                                                                      SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -120,25 +120,24 @@ bool PerimeterParamXml::createPerimeterRegionParamListToDomainXmlNode(const std:
     return true;
 }
 
-bool PerimeterParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area,
-                                                         SafePointer<DomainXmlNode>& node) const
+bool PerimeterParamXml::createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node)
 {
     return frame::appendPolygonArea(node, area);
 }
 
-bool PerimeterParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area) const
+bool PerimeterParamXml::parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area)
 {
     return frame::readPolygonArea(node, area);
 }
 
 bool PerimeterParamXml::createDetectionAreaV2ToDomainXmlNode(const DetectionAreaV2& area,
-                                                             SafePointer<DomainXmlNode>& node) const
+                                                             SafePointer<DomainXmlNode>& node)
 {
     return frame::appendDetectionAreaV2(node, area);
 }
 
 bool PerimeterParamXml::parseDetectionAreaV2ToDomainXmlNode(const SafePointer<DomainXmlNode>& node,
-                                                            DetectionAreaV2& area) const
+                                                            DetectionAreaV2& area)
 {
     return frame::readDetectionAreaV2(node, area);
 }

@@ -23,25 +23,25 @@ public:
     /// @name Node form
     /// See IDomainXml.
     /// @{
-    bool createDomainXmlNode(const PerimeterParam& param, SafePointer<DomainXmlNode>& node) const;
-    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, PerimeterParam& param) const;
-    bool createXmlString(const PerimeterParam& param, std::string& text) const;
-    bool parseXmlString(const std::string& text, PerimeterParam& param) const;
+    bool createDomainXmlNode(const PerimeterParam& param, SafePointer<DomainXmlNode>& node);
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, PerimeterParam& param);
+    bool createXmlString(const PerimeterParam& param, std::string& text);
+    bool parseXmlString(const std::string& text, PerimeterParam& param);
     /// @}
 
     /// Adds the container "RegionList" with the regions to @p node. False if that is empty.
     bool createPerimeterRegionParamListToDomainXmlNode(const std::vector<PerimeterRegionParam>& regions,
-                                                       SafePointer<DomainXmlNode>& node) const;
+                                                       SafePointer<DomainXmlNode>& node);
 
     /// Adds the element "PolygonArealist" to @p node. False if that is empty.
-    bool createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node) const;
+    bool createPolygonAreaToDomainXmlNode(const PolygonArea& area, SafePointer<DomainXmlNode>& node);
     /// Reads the child "PolygonArealist" of @p node behind what @p area holds. False without it.
-    bool parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area) const;
+    bool parsePolygonAreaToDomainXmlNode(const SafePointer<DomainXmlNode>& node, PolygonArea& area);
 
     /// Adds the element "DetectionAreaV2" to @p node. False if that is empty, or if the cells cannot be written.
-    bool createDetectionAreaV2ToDomainXmlNode(const DetectionAreaV2& area, SafePointer<DomainXmlNode>& node) const;
+    bool createDetectionAreaV2ToDomainXmlNode(const DetectionAreaV2& area, SafePointer<DomainXmlNode>& node);
     /// Reads the child "DetectionAreaV2" of @p node. False without it.
-    bool parseDetectionAreaV2ToDomainXmlNode(const SafePointer<DomainXmlNode>& node, DetectionAreaV2& area) const;
+    bool parseDetectionAreaV2ToDomainXmlNode(const SafePointer<DomainXmlNode>& node, DetectionAreaV2& area);
 
 private:
     // A rule is written and read as a whole: what the base does with its own part is hidden.
@@ -50,5 +50,5 @@ private:
     using IntelligeBaseParamXml::parseDomainXmlNode;
     using IntelligeBaseParamXml::parseXmlString;
 
-    bool parseRule(const SafePointer<DomainXmlNode>& node, PerimeterParam& rule) const;
+    bool parseRule(const SafePointer<DomainXmlNode>& node, PerimeterParam& rule);
 };

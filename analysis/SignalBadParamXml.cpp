@@ -13,7 +13,7 @@ SignalBadParamXml::SignalBadParamXml() = default;
 
 SignalBadParamXml::~SignalBadParamXml() = default;
 
-bool SignalBadParamXml::createDomainXmlNode(const SignalBadParam& param, SafePointer<DomainXmlNode>& node) const
+bool SignalBadParamXml::createDomainXmlNode(const SignalBadParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -21,7 +21,7 @@ bool SignalBadParamXml::createDomainXmlNode(const SignalBadParam& param, SafePoi
     return true;
 }
 
-bool SignalBadParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, SignalBadParam& param) const
+bool SignalBadParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, SignalBadParam& param)
 {
     if (!node) return false;
 
@@ -32,13 +32,13 @@ bool SignalBadParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& nod
     return true;
 }
 
-bool SignalBadParamXml::createXmlString(const SignalBadParam& param, std::string& text) const
+bool SignalBadParamXml::createXmlString(const SignalBadParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("SignalBadParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool SignalBadParamXml::parseXmlString(const std::string& text, SignalBadParam& param) const
+bool SignalBadParamXml::parseXmlString(const std::string& text, SignalBadParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "SignalBadParam", node) && parseDomainXmlNode(node, param);

@@ -18,10 +18,10 @@ public:
     /// @name Node form
     /// See IDomainXml.
     /// @{
-    bool createDomainXmlNode(const SignalBadParam& param, SafePointer<DomainXmlNode>& node) const;
-    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, SignalBadParam& param) const;
-    bool createXmlString(const SignalBadParam& param, std::string& text) const;
-    bool parseXmlString(const std::string& text, SignalBadParam& param) const;
+    bool createDomainXmlNode(const SignalBadParam& param, SafePointer<DomainXmlNode>& node);
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, SignalBadParam& param);
+    bool createXmlString(const SignalBadParam& param, std::string& text);
+    bool parseXmlString(const std::string& text, SignalBadParam& param);
     /// @}
 
 private:

@@ -40,7 +40,7 @@ TripWireParamXml::TripWireParamXml() = default;
 
 TripWireParamXml::~TripWireParamXml() = default;
 
-bool TripWireParamXml::createDomainXmlNode(const TripWireParam& param, SafePointer<DomainXmlNode>& node) const
+bool TripWireParamXml::createDomainXmlNode(const TripWireParam& param, SafePointer<DomainXmlNode>& node)
 {
     if (!frame::appendBasePart(node, param)) return false;
 
@@ -48,7 +48,7 @@ bool TripWireParamXml::createDomainXmlNode(const TripWireParam& param, SafePoint
     return createTripWireRegionParamListToDomainXmlNode(param.getTripWireRegionParamList(), node);
 }
 
-bool TripWireParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, TripWireParam& param) const
+bool TripWireParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, TripWireParam& param)
 {
     if (!node) return false;
 
@@ -71,20 +71,20 @@ bool TripWireParamXml::parseDomainXmlNode(const SafePointer<DomainXmlNode>& node
     return true;
 }
 
-bool TripWireParamXml::createXmlString(const TripWireParam& param, std::string& text) const
+bool TripWireParamXml::createXmlString(const TripWireParam& param, std::string& text)
 {
     SafePointer<DomainXmlNode> node = frame::makeNode("TripWireParam");
     return createDomainXmlNode(param, node) && DomainXmlNode::toString(node, text);
 }
 
-bool TripWireParamXml::parseXmlString(const std::string& text, TripWireParam& param) const
+bool TripWireParamXml::parseXmlString(const std::string& text, TripWireParam& param)
 {
     SafePointer<DomainXmlNode> node;
     return DomainXmlNode::parse(text, "TripWireParam", node) && parseDomainXmlNode(node, param);
 }
 
 bool TripWireParamXml::createTripWireRegionParamListToDomainXmlNode(const std::vector<TripWireRegionParam>& regions,
-                                                                    SafePointer<DomainXmlNode>& node) const
+                                                                    SafePointer<DomainXmlNode>& node)
 {
     if (!node) return false;
 
@@ -98,12 +98,12 @@ bool TripWireParamXml::createTripWireRegionParamListToDomainXmlNode(const std::v
     return true;
 }
 
-bool TripWireParamXml::createLineCrossToDomainXmlNode(const LineCross& line, SafePointer<DomainXmlNode>& node) const
+bool TripWireParamXml::createLineCrossToDomainXmlNode(const LineCross& line, SafePointer<DomainXmlNode>& node)
 {
     return frame::appendLineCross(node, line);
 }
 
-bool TripWireParamXml::parseLineCrossToDomainXmlNode(const SafePointer<DomainXmlNode>& node, LineCross& line) const
+bool TripWireParamXml::parseLineCrossToDomainXmlNode(const SafePointer<DomainXmlNode>& node, LineCross& line)
 {
     return frame::readLineCross(node, line);
 }

@@ -21,20 +21,20 @@ public:
     /// @name Node form
     /// See IDomainXml.
     /// @{
-    bool createDomainXmlNode(const TripWireParam& param, SafePointer<DomainXmlNode>& node) const;
-    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, TripWireParam& param) const;
-    bool createXmlString(const TripWireParam& param, std::string& text) const;
-    bool parseXmlString(const std::string& text, TripWireParam& param) const;
+    bool createDomainXmlNode(const TripWireParam& param, SafePointer<DomainXmlNode>& node);
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, TripWireParam& param);
+    bool createXmlString(const TripWireParam& param, std::string& text);
+    bool parseXmlString(const std::string& text, TripWireParam& param);
     /// @}
 
     /// Adds the container "RegionList" with the regions to @p node. False if that is empty.
     bool createTripWireRegionParamListToDomainXmlNode(const std::vector<TripWireRegionParam>& regions,
-                                                      SafePointer<DomainXmlNode>& node) const;
+                                                      SafePointer<DomainXmlNode>& node);
 
     /// Adds the element "LineCross" to @p node. False if that is empty.
-    bool createLineCrossToDomainXmlNode(const LineCross& line, SafePointer<DomainXmlNode>& node) const;
+    bool createLineCrossToDomainXmlNode(const LineCross& line, SafePointer<DomainXmlNode>& node);
     /// Reads the child "LineCross" of @p node. False without it.
-    bool parseLineCrossToDomainXmlNode(const SafePointer<DomainXmlNode>& node, LineCross& line) const;
+    bool parseLineCrossToDomainXmlNode(const SafePointer<DomainXmlNode>& node, LineCross& line);
 
 private:
     // A rule is written and read as a whole: what the base does with its own part is hidden.

@@ -143,8 +143,8 @@ TEST(AbnormalSpeedParamXml, RefusesARegionThatIsNotWhole)
 
 TEST(AbnormalSpeedParamXml, CarriesTheBasePartThroughAReference)
 {
-    const AbnormalSpeedParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    AbnormalSpeedParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     std::string text;
     ASSERT_TRUE(base.createXmlString(sample(), text));
     EXPECT_TRUE(matchesGolden(text, "analysis/IntelligeBaseParamXml.node.xml"));

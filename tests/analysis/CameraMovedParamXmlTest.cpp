@@ -54,8 +54,8 @@ TEST(CameraMovedParamXml, GivesDefaultsForWhatANodeLacks)
 
 TEST(CameraMovedParamXml, CarriesTheBasePartThroughAReference)
 {
-    const CameraMovedParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    CameraMovedParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     SafePointer<DomainXmlNode> node(new DomainXmlNode("IntelligeBaseParam"));
     ASSERT_TRUE(base.createDomainXmlNode(sample(), node));
     EXPECT_TRUE(matchesGolden(textOf(node), "analysis/IntelligeBaseParamXml.node.xml"));

@@ -56,8 +56,8 @@ TEST(CameraTamperParamXml, GivesDefaultsForWhatANodeLacks)
 
 TEST(CameraTamperParamXml, CarriesTheBasePartThroughAReference)
 {
-    const CameraTamperParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    CameraTamperParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     SafePointer<DomainXmlNode> node(new DomainXmlNode("IntelligeBaseParam"));
     ASSERT_TRUE(base.createDomainXmlNode(sample(), node));
     EXPECT_TRUE(matchesGolden(textOf(node), "analysis/IntelligeBaseParamXml.node.xml"));

@@ -137,8 +137,8 @@ TEST(ConverseParamXml, RefusesARegionThatIsNotWhole)
 
 TEST(ConverseParamXml, CarriesTheBasePartThroughAReference)
 {
-    const ConverseParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    ConverseParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     std::string text;
     ASSERT_TRUE(base.createXmlString(sample(), text));
     EXPECT_TRUE(matchesGolden(text, "analysis/IntelligeBaseParamXml.node.xml"));

@@ -50,7 +50,53 @@ SafePointer<DomainXmlNode> childOf(const SafePointer<DomainXmlNode>& node)
     return children.at(0);
 }
 
+/// Counts the calls that reach it.
+class CountingXml : public IntelligeBaseParamXml
+{
+public:
+    bool parseXmlString(const std::string& text, IntelligeBaseParam& param) override
+    {
+        ++calls;
+        return IntelligeBaseParamXml::parseXmlString(text, param);
+    }
+    bool createXmlString(const IntelligeBaseParam& param, std::string& text) override
+    {
+        ++calls;
+        return IntelligeBaseParamXml::createXmlString(param, text);
+    }
+    bool parseDomainXmlNode(const SafePointer<DomainXmlNode>& node, IntelligeBaseParam& param) override
+    {
+        ++calls;
+        return IntelligeBaseParamXml::parseDomainXmlNode(node, param);
+    }
+    bool createDomainXmlNode(const IntelligeBaseParam& param, SafePointer<DomainXmlNode>& node) override
+    {
+        ++calls;
+        return IntelligeBaseParamXml::createDomainXmlNode(param, node);
+    }
+
+    int calls = 0;
+};
+
 } // namespace
+
+TEST(IntelligeBaseParamXml, LetsAUserOverrideItsFourOperations)
+{
+    CountingXml codec;
+    IntelligeBaseParamXml& base = codec;
+
+    std::string text;
+    EXPECT_TRUE(base.createXmlString(sample(), text));
+    EXPECT_EQ(1, codec.calls);
+    IntelligeBaseParam read;
+    EXPECT_TRUE(base.parseXmlString(text, read));
+    EXPECT_EQ(2, codec.calls);
+    SafePointer<DomainXmlNode> node = parent();
+    EXPECT_TRUE(base.createDomainXmlNode(sample(), node));
+    EXPECT_EQ(3, codec.calls);
+    EXPECT_TRUE(base.parseDomainXmlNode(node, read));
+    EXPECT_EQ(4, codec.calls);
+}
 
 TEST(IntelligeBaseParamXml, WritesNodes)
 {
@@ -244,7 +290,7 @@ TEST(IntelligeBaseParamXml, EmbedsTheScheduleAsAPassageThroughTextDoes)
 
 TEST(IntelligeBaseParamXml, RefusesAnEmptyPointer)
 {
-    const IntelligeBaseParamXml codec;
+    IntelligeBaseParamXml codec;
     SafePointer<DomainXmlNode> empty;
     IntelligeBaseParam read = sample();
     EXPECT_FALSE(codec.createDomainXmlNode(read, empty));

@@ -140,8 +140,8 @@ TEST(LoiterParamXml, RefusesARegionThatIsNotWhole)
 
 TEST(LoiterParamXml, CarriesTheBasePartThroughAReference)
 {
-    const LoiterParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    LoiterParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     std::string text;
     ASSERT_TRUE(base.createXmlString(sample(), text));
     EXPECT_TRUE(matchesGolden(text, "analysis/IntelligeBaseParamXml.node.xml"));

@@ -80,8 +80,8 @@ TEST(MotionDetectionParamV3Xml, CarriesTheBasePartInNodes)
 
 TEST(MotionDetectionParamV3Xml, CarriesTheBasePartThroughAReference)
 {
-    const MotionDetectionParamV3Xml codec;
-    const IntelligeBaseParamXml& base = codec;
+    MotionDetectionParamV3Xml codec;
+    IntelligeBaseParamXml& base = codec;
     SafePointer<DomainXmlNode> node(new DomainXmlNode("IntelligeBaseParam"));
     ASSERT_TRUE(base.createDomainXmlNode(sample(), node));
     EXPECT_TRUE(matchesGolden(textOf(node), "analysis/IntelligeBaseParamXml.node.xml"));

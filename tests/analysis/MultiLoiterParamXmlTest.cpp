@@ -144,8 +144,8 @@ TEST(MultiLoiterParamXml, RefusesARegionThatIsNotWhole)
 
 TEST(MultiLoiterParamXml, CarriesTheBasePartThroughAReference)
 {
-    const MultiLoiterParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    MultiLoiterParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     std::string text;
     ASSERT_TRUE(base.createXmlString(sample(), text));
     EXPECT_TRUE(matchesGolden(text, "analysis/IntelligeBaseParamXml.node.xml"));

@@ -189,8 +189,8 @@ TEST(MultiTripWireParamXml, CutsAFractionOfADirection)
 
 TEST(MultiTripWireParamXml, CarriesTheBasePartThroughAReference)
 {
-    const MultiTripWireParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    MultiTripWireParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     std::string text;
     ASSERT_TRUE(base.createXmlString(sample(), text));
     EXPECT_TRUE(matchesGolden(text, "analysis/IntelligeBaseParamXml.node.xml"));

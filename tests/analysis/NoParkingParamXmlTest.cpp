@@ -110,8 +110,8 @@ TEST(NoParkingParamXml, RefusesARegionThatIsNotWhole)
 
 TEST(NoParkingParamXml, CarriesTheBasePartThroughAReference)
 {
-    const NoParkingParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    NoParkingParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     std::string text;
     ASSERT_TRUE(base.createXmlString(sample(), text));
     EXPECT_TRUE(matchesGolden(text, "analysis/IntelligeBaseParamXml.node.xml"));

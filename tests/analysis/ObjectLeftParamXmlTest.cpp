@@ -112,8 +112,8 @@ TEST(ObjectLeftParamXml, RefusesARegionThatIsNotWhole)
 
 TEST(ObjectLeftParamXml, CarriesTheBasePartThroughAReference)
 {
-    const ObjectLeftParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    ObjectLeftParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     std::string text;
     ASSERT_TRUE(base.createXmlString(sample(), text));
     EXPECT_TRUE(matchesGolden(text, "analysis/IntelligeBaseParamXml.node.xml"));

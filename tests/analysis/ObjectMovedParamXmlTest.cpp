@@ -112,8 +112,8 @@ TEST(ObjectMovedParamXml, RefusesARegionThatIsNotWhole)
 
 TEST(ObjectMovedParamXml, CarriesTheBasePartThroughAReference)
 {
-    const ObjectMovedParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    ObjectMovedParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     std::string text;
     ASSERT_TRUE(base.createXmlString(sample(), text));
     EXPECT_TRUE(matchesGolden(text, "analysis/IntelligeBaseParamXml.node.xml"));

@@ -198,7 +198,7 @@ TEST(PerimeterParamXml, TakesNoMoreCellsThanThereAre)
 // Peers print what a region embeds, parse that text and add the tree.
 TEST(PerimeterParamXml, EmbedsWhatAPassageThroughTextGives)
 {
-    const PerimeterParamXml codec;
+    PerimeterParamXml codec;
     SafePointer<DomainXmlNode> expected(new DomainXmlNode("Region"));
     SafePointer<DomainXmlNode> node(new DomainXmlNode("Region"));
     std::string text;
@@ -221,8 +221,8 @@ TEST(PerimeterParamXml, EmbedsWhatAPassageThroughTextGives)
 
 TEST(PerimeterParamXml, CarriesTheBasePartThroughAReference)
 {
-    const PerimeterParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    PerimeterParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     std::string text;
     ASSERT_TRUE(base.createXmlString(sample(), text));
     EXPECT_TRUE(matchesGolden(text, "analysis/IntelligeBaseParamXml.node.xml"));

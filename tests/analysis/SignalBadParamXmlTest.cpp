@@ -56,8 +56,8 @@ TEST(SignalBadParamXml, GivesDefaultsForWhatANodeLacks)
 
 TEST(SignalBadParamXml, CarriesTheBasePartThroughAReference)
 {
-    const SignalBadParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    SignalBadParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     SafePointer<DomainXmlNode> node(new DomainXmlNode("IntelligeBaseParam"));
     ASSERT_TRUE(base.createDomainXmlNode(sample(), node));
     EXPECT_TRUE(matchesGolden(textOf(node), "analysis/IntelligeBaseParamXml.node.xml"));

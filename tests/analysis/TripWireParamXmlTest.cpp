@@ -157,7 +157,7 @@ TEST(TripWireParamXml, CutsAFractionOfADirection)
 // Peers print what a region embeds, parse that text and add the tree.
 TEST(TripWireParamXml, EmbedsWhatAPassageThroughTextGives)
 {
-    const TripWireParamXml codec;
+    TripWireParamXml codec;
     SafePointer<DomainXmlNode> expected(new DomainXmlNode("Region"));
     SafePointer<DomainXmlNode> node(new DomainXmlNode("Region"));
     std::string text;
@@ -172,8 +172,8 @@ TEST(TripWireParamXml, EmbedsWhatAPassageThroughTextGives)
 
 TEST(TripWireParamXml, CarriesTheBasePartThroughAReference)
 {
-    const TripWireParamXml codec;
-    const IntelligeBaseParamXml& base = codec;
+    TripWireParamXml codec;
+    IntelligeBaseParamXml& base = codec;
     std::string text;
     ASSERT_TRUE(base.createXmlString(sample(), text));
     EXPECT_TRUE(matchesGolden(text, "analysis/IntelligeBaseParamXml.node.xml"));
