@@ -890,67 +890,8 @@ private:
     std::uint32_t endTime_ = 0;
 };
 
-/// The time zone of a device, and when it keeps daylight saving time, as the "TimeZoneParam" document carries it.
-class TimeZoneExParam
-{
-public:
-    /// The time zone, as the device numbers it.
-    int getTimeZone() const { return timeZone_; }
-    void setTimeZone(int timeZone) { timeZone_ = timeZone; }
-
-    /// Whether daylight saving time is kept.
-    bool getDSTOpenFlag() const { return dstOpenFlag_; }
-    void setDSTOpenFlag(bool dstOpenFlag) { dstOpenFlag_ = dstOpenFlag; }
-
-    /// By how much it moves the clock, in the device's unit.
-    int getDSTOffset() const { return dstOffset_; }
-    void setDSTOffset(int dstOffset) { dstOffset_ = dstOffset; }
-
-    /// Month in which it begins.
-    int getBeginMonth() const { return beginMonth_; }
-    void setBeginMonth(int beginMonth) { beginMonth_ = beginMonth; }
-
-    /// Week of the month in which it begins.
-    int getBeginWeekly() const { return beginWeekly_; }
-    void setBeginWeekly(int beginWeekly) { beginWeekly_ = beginWeekly; }
-
-    /// Day of the week on which it begins, as the device counts it.
-    int getBeginWeekDays() const { return beginWeekDays_; }
-    void setBeginWeekDays(int beginWeekDays) { beginWeekDays_ = beginWeekDays; }
-
-    /// Time of day at which it begins, in the device's unit.
-    std::uint32_t getBeginTime() const { return beginTime_; }
-    void setBeginTime(std::uint32_t beginTime) { beginTime_ = beginTime; }
-
-    /// Month in which it ends.
-    int getEndMonth() const { return endMonth_; }
-    void setEndMonth(int endMonth) { endMonth_ = endMonth; }
-
-    /// Week of the month in which it ends.
-    int getEndWeekly() const { return endWeekly_; }
-    void setEndWeekly(int endWeekly) { endWeekly_ = endWeekly; }
-
-    /// Day of the week on which it ends, as the device counts it.
-    int getEndWeekDays() const { return endWeekDays_; }
-    void setEndWeekDays(int endWeekDays) { endWeekDays_ = endWeekDays; }
-
-    /// Time of day at which it ends, in the device's unit.
-    std::uint32_t getEndTime() const { return endTime_; }
-    void setEndTime(std::uint32_t endTime) { endTime_ = endTime; }
-
-private:
-    int timeZone_ = 0;
-    bool dstOpenFlag_ = false;
-    int dstOffset_ = 0;
-    int beginMonth_ = 0;
-    int beginWeekly_ = 0;
-    int beginWeekDays_ = 0;
-    std::uint32_t beginTime_ = 0;
-    int endMonth_ = 0;
-    int endWeekly_ = 0;
-    int endWeekDays_ = 0;
-    std::uint32_t endTime_ = 0;
-};
+/// The same under the name that goes with the "TimeZoneParam" document.
+using TimeZoneExParam = TimeZoneParam;
 
 /// A time at which a device restarts.
 class RebootTime
