@@ -80,14 +80,7 @@ bool MotionDetectionEventXml::readElement(const TiXmlElement& element, MotionDet
         event.getMotionDetectionParam() = std::move(param);
     }
 
-    const TiXmlElement* scheduleChild = element.FirstChildElement("ScheduleTimeParam");
-    if (scheduleChild != nullptr)
-    {
-        ScheduleTimeParam schedule;
-        if (!ScheduleTimeParamXml::readElement(*scheduleChild, schedule)) return false;
-        event.getScheduleTimeParam() = std::move(schedule);
-    }
-
+    if (!frame::readSchedule(element, event.getScheduleTimeParam())) return false;
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
     if (!frame::readActions(element, "AlarmRecordActionList", event.getAlarmRecordAction())) return false;
     if (!frame::readActions(element, "AlarmPTZActionList", event.getAlarmPTZAction())) return false;

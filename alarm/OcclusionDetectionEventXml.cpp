@@ -121,14 +121,7 @@ bool OcclusionDetectionEventXml::readElement(const TiXmlElement& element, Occlus
         event.getOcclusionDetectionParam() = std::move(param);
     }
 
-    const TiXmlElement* scheduleChild = element.FirstChildElement("ScheduleTimeParam");
-    if (scheduleChild != nullptr)
-    {
-        ScheduleTimeParam schedule;
-        if (!ScheduleTimeParamXml::readElement(*scheduleChild, schedule)) return false;
-        event.getScheduleTimeParam() = std::move(schedule);
-    }
-
+    if (!frame::readSchedule(element, event.getScheduleTimeParam())) return false;
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
     return frame::readActions(element, "AlarmPTZActionList", event.getAlarmPTZAction());
 }

@@ -57,14 +57,7 @@ bool readEvent(const TiXmlElement& element, PIRAlarmEvent& event)
     event.setPIRAlarmInterval(frame::uint32Of(element, "AlarmInterval", usualInterval));
     event.setPIRAlarmEnableFlag(frame::intOf(element, "PIRAlarmEnableFlag", 0) != 0);
 
-    const TiXmlElement* scheduleChild = element.FirstChildElement("ScheduleTimeParam");
-    if (scheduleChild != nullptr)
-    {
-        ScheduleTimeParam schedule;
-        if (!ScheduleTimeParamXml::readElement(*scheduleChild, schedule)) return false;
-        event.getScheduleTimeParam() = std::move(schedule);
-    }
-
+    if (!frame::readSchedule(element, event.getScheduleTimeParam())) return false;
     if (!frame::readActions(element, "AlarmOutActionList", event.getAlarmOutAction())) return false;
     if (!frame::readActions(element, "AlarmRecordActionList", event.getAlarmRecordAction())) return false;
     if (!frame::readActions(element, "AlarmPTZActionList", event.getAlarmPTZAction())) return false;

@@ -4,6 +4,7 @@
 #include "alarm/AlarmOverlayActionXml.h"
 #include "alarm/AlarmPTZActionXml.h"
 #include "alarm/AlarmRecordActionXml.h"
+#include "alarm/ScheduleTimeParamXml.h"
 #include "core/Frame.h"
 
 #include <algorithm>
@@ -275,6 +276,17 @@ std::vector<AlarmOverlayAction> alarmOverlayActions(const SafePointer<DomainXmlN
     findList(node, container, line, list);
     readActions(list, actions);
     return actions;
+}
+
+bool readSchedule(const TiXmlElement& parent, ScheduleTimeParam& schedule)
+{
+    const TiXmlElement* element = parent.FirstChildElement("ScheduleTimeParam");
+    if (element == nullptr) return true;
+
+    ScheduleTimeParam read;
+    if (!ScheduleTimeParamXml::readElement(*element, read)) return false;
+    schedule = std::move(read);
+    return true;
 }
 
 std::vector<const TiXmlElement*> repeatedElements(const TiXmlElement& first, const char* length)

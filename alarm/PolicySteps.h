@@ -7,8 +7,8 @@
 #include <tinyxml.h>
 #include <vector>
 
-/// The steps that the codecs of the alarm policies share, beside those of all codecs: the lists of actions, and lists
-/// that have no container.
+/// The steps that the codecs of the alarm policies share, beside those of all codecs: the lists of actions, the
+/// schedule, and lists that have no container.
 namespace [[gnu::visibility("hidden")]] frame
 {
 
@@ -66,6 +66,11 @@ std::vector<AlarmOverlayAction> alarmOverlayActions(const SafePointer<DomainXmlN
 /// @}
 
 /// @}
+
+/// Reads the child of @p parent named "ScheduleTimeParam" into @p schedule, which is left where there is none. False,
+/// and left too, if it cannot be read.
+bool readSchedule(const TiXmlElement& parent, ScheduleTimeParam& schedule);
+
 /// @name Lists without a container
 /// @{
 

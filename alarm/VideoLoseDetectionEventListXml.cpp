@@ -14,6 +14,7 @@
 
 #include "alarm/VideoLoseDetectionEventListXml.h"
 
+#include "alarm/AlarmPTZActionXml.h"
 #include "core/Frame.h"
 
 #include <algorithm>
@@ -96,17 +97,7 @@ bool VideoLoseDetectionEventListXml::createAlarmOutActionListToDomainXmlNode(con
 bool VideoLoseDetectionEventListXml::createAlarmPTZActionToDomainXmlNode(const AlarmPTZAction& action,
                                                                          SafePointer<DomainXmlNode>& node) const
 {
-    if (!node) return false;
-
-    node->setProperty("EventTypeId", action.getEventTypeId());
-    node->setProperty("DeviceId", action.getDeviceId());
-    node->setProperty("CameraId", action.getCameraId());
-    node->setProperty("ComId", action.getComId());
-    node->setProperty("PtzId", action.getPtzId());
-    node->setProperty("PtzOperationCmd", action.getPtzOperationCmd());
-    node->setProperty("PtzOperationCmdLen", action.getPtzOperationCmdLen());
-    node->setProperty("Reserve", action.getReserve());
-    return true;
+    return AlarmPTZActionXml().createDomainXmlNode(action, node);
 }
 
 bool VideoLoseDetectionEventListXml::createAlarmPTZActionListToDomainXmlNode(const std::vector<AlarmPTZAction>& actions,
