@@ -4,64 +4,96 @@
 #include "core/Frame.h"
 #include "domain/NodeTree.h"
 
+#include <cstdint>
 #include <cstring>
 #include <tinyxml.h>
 
 template class SafePointer<DomainXmlNode>;
 
+namespace
+{
+
+// A node that holds no tree has the low bit of its pointer set: its element may die before it, and so, when it goes,
+// it cannot find out from the element whose that is.
+
+static_assert(alignof(TiXmlElement) % 2 == 0, "no element has an odd address");
+
+TiXmlElement* markForeign(TiXmlElement* element)
+{
+    return reinterpret_cast<TiXmlElement*>(reinterpret_cast<char*>(element) + 1);
+}
+
+bool isForeign(const TiXmlElement* pointer)
+{
+    return reinterpret_cast<std::uintptr_t>(pointer) % 2 != 0;
+}
+
+TiXmlElement* elementOf(TiXmlElement* pointer)
+{
+    return isForeign(pointer) ? reinterpret_cast<TiXmlElement*>(reinterpret_cast<char*>(pointer) - 1) : pointer;
+}
+
+} // namespace
+
 DomainXmlNode::DomainXmlNode(const std::string& name) : DomainXmlNode(frame::makeTree(name))
 {
 }
 
-DomainXmlNode::DomainXmlNode(TiXmlElement* element) : element_(element)
+DomainXmlNode::DomainXmlNode(TiXmlElement* element) : pointer_(element)
 {
-    frame::holdTree(element_);
+    if (element != nullptr && !frame::holdTree(*element)) pointer_ = markForeign(element);
 }
 
 DomainXmlNode::~DomainXmlNode()
 {
-    frame::releaseTree(element_);
+    if (pointer_ != nullptr && !isForeign(pointer_)) frame::releaseTree(*pointer_);
 }
 
 bool DomainXmlNode::setProperty(const char* name, int value)
 {
-    if (element_ == nullptr) return false;
-    frame::setInt(*element_, name, value);
+    TiXmlElement* element = elementOf(pointer_);
+    if (element == nullptr) return false;
+    frame::setInt(*element, name, value);
     return true;
 }
 
 bool DomainXmlNode::setProperty(const char* name, bool value)
 {
-    if (element_ == nullptr) return false;
-    frame::setFlag(*element_, name, value);
+    TiXmlElement* element = elementOf(pointer_);
+    if (element == nullptr) return false;
+    frame::setFlag(*element, name, value);
     return true;
 }
 
 bool DomainXmlNode::setProperty(const char* name, float value)
 {
-    if (element_ == nullptr) return false;
-    frame::setFloat(*element_, name, value);
+    TiXmlElement* element = elementOf(pointer_);
+    if (element == nullptr) return false;
+    frame::setFloat(*element, name, value);
     return true;
 }
 
 bool DomainXmlNode::setProperty(const char* name, unsigned long long value)
 {
-    if (element_ == nullptr) return false;
-    frame::setUnsigned(*element_, name, value);
+    TiXmlElement* element = elementOf(pointer_);
+    if (element == nullptr) return false;
+    frame::setUnsigned(*element, name, value);
     return true;
 }
 
 bool DomainXmlNode::setProperty(const char* name, const char* value)
 {
-    if (element_ == nullptr || value == nullptr) return false;
-    element_->SetAttribute(name, value);
+    TiXmlElement* element = elementOf(pointer_);
+    if (element == nullptr || value == nullptr) return false;
+    element->SetAttribute(name, value);
     return true;
 }
 
 bool DomainXmlNode::setProperty(const char* name, const std::string& value)
 {
-    if (element_ == nullptr) return false;
-    frame::setText(*element_, name, value);
+    TiXmlElement* element = elementOf(pointer_);
+    if (element == nullptr) return false;
+    frame::setText(*element, name, value);
     return true;
 }
 
@@ -107,47 +139,51 @@ bool DomainXmlNode::getProperty(const char* name, std::string& value) const
 
 bool DomainXmlNode::addConfigNode(SafePointer<DomainXmlNode>& child)
 {
-    if (element_ == nullptr || !child || child->element_ == nullptr) return false;
-    return frame::joinTrees(*element_, *child->element_);
+    TiXmlElement* element = elementOf(pointer_);
+    TiXmlElement* added = child ? elementOf(child->pointer_) : nullptr;
+    return element != nullptr && added != nullptr && frame::joinTrees(*element, *added);
 }
 
 void DomainXmlNode::cleanChildren()
 {
-    if (element_ != nullptr) frame::removeChildren(*element_);
+    TiXmlElement* element = elementOf(pointer_);
+    if (element != nullptr) frame::removeChildren(*element);
 }
 
 bool DomainXmlNode::getConfigNode(const std::string& name, SafePointer<DomainXmlNode>& child) const
 {
-    TiXmlElement* element = element_ != nullptr ? element_->FirstChildElement(name.c_str()) : nullptr;
-    if (element == nullptr) return false;
-    child = SafePointer<DomainXmlNode>(new DomainXmlNode(element));
+    TiXmlElement* element = elementOf(pointer_);
+    TiXmlElement* found = element != nullptr ? element->FirstChildElement(name.c_str()) : nullptr;
+    if (found == nullptr) return false;
+    child = SafePointer<DomainXmlNode>(new DomainXmlNode(found));
     return true;
 }
 
 bool DomainXmlNode::getConfigNodeList(const std::string& name, std::vector<SafePointer<DomainXmlNode>>& children) const
 {
-    if (element_ == nullptr) return false;
+    if (pointer_ == nullptr) return false;
     collectChildren(name.c_str(), children);
     return true;
 }
 
 bool DomainXmlNode::getAllConfigNodeList(std::vector<SafePointer<DomainXmlNode>>& children) const
 {
-    if (element_ == nullptr) return false;
+    if (pointer_ == nullptr) return false;
     collectChildren(nullptr, children);
     return true;
 }
 
 bool DomainXmlNode::getNodeName(std::string& name) const
 {
-    if (element_ == nullptr) return false;
-    name = element_->Value();
+    TiXmlElement* element = elementOf(pointer_);
+    if (element == nullptr) return false;
+    name = element->Value();
     return true;
 }
 
 TiXmlElement* DomainXmlNode::getXmlNode() const
 {
-    return element_;
+    return elementOf(pointer_);
 }
 
 bool DomainXmlNode::parse(const std::string& text, const std::string& root, SafePointer<DomainXmlNode>& node)
@@ -162,8 +198,9 @@ bool DomainXmlNode::parse(const std::string& text, SafePointer<DomainXmlNode>& n
 
 bool DomainXmlNode::toString(const SafePointer<DomainXmlNode>& node, std::string& text)
 {
-    if (!node || node->element_ == nullptr) return false;
-    frame::print(*node->element_, text);
+    TiXmlElement* element = node ? elementOf(node->pointer_) : nullptr;
+    if (element == nullptr) return false;
+    frame::print(*element, text);
     return true;
 }
 
@@ -176,13 +213,14 @@ bool DomainXmlNode::takeTree(TiXmlElement* element, SafePointer<DomainXmlNode>& 
 
 const char* DomainXmlNode::propertyOf(const char* name) const
 {
-    return element_ != nullptr ? frame::attributeOf(*element_, name) : nullptr;
+    TiXmlElement* element = elementOf(pointer_);
+    return element != nullptr ? frame::attributeOf(*element, name) : nullptr;
 }
 
 void DomainXmlNode::collectChildren(const char* name, std::vector<SafePointer<DomainXmlNode>>& children) const
 {
     std::vector<TiXmlElement*> elements;
-    for (TiXmlElement* element = element_->FirstChildElement(); element != nullptr;
+    for (TiXmlElement* element = elementOf(pointer_)->FirstChildElement(); element != nullptr;
          element = element->NextSiblingElement())
     {
         if (name == nullptr || std::strcmp(name, element->Value()) == 0) elements.push_back(element);

@@ -14,8 +14,8 @@ class TiXmlElement;
 ///
 /// @par Lifetime
 /// A tree made by name or by `parse` lives as long as any node of it is held, whichever died first, and so do children
-/// that `cleanChildren` removed. A node that wraps an element of somebody else's tree frees nothing and is valid only
-/// as long as that tree.
+/// that `cleanChildren` removed. A node that wraps an element of somebody else's tree frees nothing and is of use only
+/// as long as that element lives; it may die after it.
 ///
 /// @par Values
 /// Integers and floats are decimal, a `bool` is "true" or "false". A property that is there but is no number reads as
@@ -113,7 +113,7 @@ private:
     const char* propertyOf(const char* name) const;
     void collectChildren(const char* name, std::vector<SafePointer<DomainXmlNode>>& children) const;
 
-    TiXmlElement* element_;
+    TiXmlElement* pointer_; // to the element; marked if the tree is somebody else's
 };
 
 extern template class SafePointer<DomainXmlNode>;

@@ -135,17 +135,17 @@ TiXmlElement* parseTree(const std::string& text, const std::string* root)
     return document.release()->RootElement();
 }
 
-void holdTree(TiXmlElement* element)
+bool holdTree(TiXmlElement& element)
 {
-    if (element == nullptr) return;
-    Holders* holders = holdersOf(topOf(*element));
-    if (holders != nullptr) ++holders->count;
+    Holders* holders = holdersOf(topOf(element));
+    if (holders == nullptr) return false;
+    ++holders->count;
+    return true;
 }
 
-void releaseTree(TiXmlElement* element)
+void releaseTree(TiXmlElement& element)
 {
-    if (element == nullptr) return;
-    TiXmlNode& top = topOf(*element);
+    TiXmlNode& top = topOf(element);
     Holders* holders = holdersOf(top);
     if (holders == nullptr || --holders->count > 0) return;
 

@@ -18,11 +18,11 @@ TiXmlElement* makeTree(const std::string& name);
 /// given and the element has another name.
 TiXmlElement* parseTree(const std::string& text, const std::string* root);
 
-/// Counts a holder of @p element's tree.
-void holdTree(TiXmlElement* element);
+/// Counts a holder of @p element's tree. False if the tree is not ours, and then there is nothing to release.
+bool holdTree(TiXmlElement& element);
 
 /// Takes a holder off @p element's tree, and frees the tree with the last.
-void releaseTree(TiXmlElement* element);
+void releaseTree(TiXmlElement& element);
 
 /// Adds @p child at the end of @p parent; moves it if it is the top of a tree of ours, else copies it. False if @p
 /// child is @p parent or lies above it.

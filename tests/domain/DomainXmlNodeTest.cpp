@@ -381,6 +381,21 @@ TEST(DomainXmlNode, LeavesACopyOfAnElementOfItsOwnAlone)
     EXPECT_STREQ("Loose", loose->Value());
 }
 
+TEST(DomainXmlNode, MayOutliveAForeignElement)
+{
+    std::unique_ptr<TiXmlElement> element(new TiXmlElement("Foreign"));
+    element->InsertEndChild(TiXmlElement("Inner"));
+    const Node wrapper(new DomainXmlNode(element.get()));
+    const Node inner = child(wrapper, "Inner");
+    std::vector<Node> all;
+    EXPECT_TRUE(wrapper->getAllConfigNodeList(all));
+    EXPECT_EQ(1U, all.size());
+    EXPECT_EQ(element.get(), wrapper->getXmlNode());
+    EXPECT_EQ(element->FirstChildElement(), inner->getXmlNode());
+    // The nodes die after it, and must not look at it then: the sanitizers and valgrind tell.
+    element.reset();
+}
+
 TEST(DomainXmlNode, DoesNotTakeAForeignElementFromItsOwner)
 {
     TiXmlElement element("Foreign");
