@@ -42,7 +42,8 @@ public:
     explicit SafePointer(T* pointer);
     /// Shares the object of @p other; raises if that is empty.
     SafePointer(const SafePointer& other);
-    /// Shares the object of @p other and releases its own; raises, and changes nothing, if @p other is empty.
+    /// Releases its own object and shares that of @p other. Raises if @p other is empty, and then changes nothing, or
+    /// if its object is gone, and then the own one has been released all the same.
     SafePointer& operator=(const SafePointer& other);
     /// The same without a change of counts: @p other, a temporary as a rule, is left with what this one held.
     SafePointer& operator=(SafePointer&& other); // NOLINT(performance-noexcept-move-constructor): it may raise
@@ -76,6 +77,18 @@ private:
         return pointer_;
     }
 
+    enum class Refusal
+    {
+        none,
+        noCount,
+        countLocked,
+        countOfAnother,
+        objectGone,
+    };
+
+    // Adds a reference, or tells why not.
+    Refusal tryReference() const;
+    static void raise(Refusal refusal);
     [[noreturn]] static void report(const char* message);
 
     T* pointer_ = nullptr;
@@ -128,9 +141,15 @@ SafePointer<T>& SafePointer<T>::operator=(const SafePointer& other)
     if (this == &other) return *this;
     if (other.pointer_ == nullptr) report("Assigned NULL <T>pointer");
 
-    // The new object is secured first: the old one may own it.
-    SafePointer source(other);
+    // The new object is secured first, as the old one may own it; but a refusal is raised after the release only.
+    const Refusal refusal = other.tryReference();
+    SafePointer source;
+    source.count_ = other.count_;
+    if (refusal == Refusal::none) source.pointer_ = other.pointer_;
+
     dec_reference();
+    pointer_ = nullptr; // others may hold the old object, but this one has dropped it
+    raise(refusal);
     pointer_ = source.pointer_;
     count_ = source.count_;
     source.pointer_ = nullptr;
@@ -150,20 +169,41 @@ SafePointer<T>& SafePointer<T>::operator=(SafePointer&& other) // NOLINT(perform
 template <class T>
 void SafePointer<T>::inc_reference() const
 {
-    if (pointer_ == nullptr || count_ == nullptr) report("Already destructed 1");
-    if (count_->lock() != 0) report("Already destructed 2");
+    raise(tryReference());
+}
+
+template <class T>
+typename SafePointer<T>::Refusal SafePointer<T>::tryReference() const
+{
+    if (pointer_ == nullptr || count_ == nullptr) return Refusal::noCount;
+    if (count_->lock() != 0) return Refusal::countLocked;
     if (count_->getPointer() != pointer_)
     {
         // This pointer dangles, and the record counts another object now. It stays locked.
         count_->abandon();
-        throw ZTRuntimeError("not valid pointer in inc_reference ");
+        return Refusal::countOfAnother;
     }
-    if (count_->inc_reference() == 0)
+    const bool shared = count_->inc_reference() != 0;
+    count_->unLock();
+    return shared ? Refusal::none : Refusal::objectGone;
+}
+
+template <class T>
+void SafePointer<T>::raise(Refusal refusal)
+{
+    switch (refusal)
     {
-        count_->unLock();
+    case Refusal::none:
+        return;
+    case Refusal::noCount:
+        report("Already destructed 1");
+    case Refusal::countLocked:
+        report("Already destructed 2");
+    case Refusal::countOfAnother:
+        throw ZTRuntimeError("not valid pointer in inc_reference ");
+    case Refusal::objectGone:
         report("Already destructed 3");
     }
-    count_->unLock();
 }
 
 template <class T>

@@ -279,6 +279,27 @@ TEST(SafePointer, ReportsAnObjectThatIsGone)
     EXPECT_EQ(1, dangling.deaths);
 }
 
+TEST(SafePointer, ReleasesItsOwnObjectBeforeItReportsTheOther)
+{
+    Dangling dangling;
+    int deaths = 0;
+    CountedPointer pointer(new Counted(deaths));
+    EXPECT_EQ(reported("Already destructed 3"), errorOf([&] { pointer = dangling.second; }));
+    EXPECT_EQ(1, deaths);
+    EXPECT_FALSE(pointer);
+
+    // An object that others hold too lives on, with one reference less.
+    CountedPointer holder(new Counted(deaths));
+    {
+        CountedPointer sharer(holder);
+        EXPECT_EQ(reported("Already destructed 3"), errorOf([&] { sharer = dangling.second; }));
+        EXPECT_FALSE(sharer);
+    }
+    EXPECT_EQ(1, deaths);
+    holder.dec_reference();
+    EXPECT_EQ(2, deaths);
+}
+
 TEST(SafePointer, ReportsACountThatHasBecomeAnothers)
 {
     int deaths = 0;
