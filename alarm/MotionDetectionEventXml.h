@@ -8,8 +8,8 @@
 
 /// What a device does when a camera sees motion: the "MotionDetectionEvent" document.
 ///
-/// A missing attribute resets its field, a missing parameter or schedule leaves it. Actions are added to those that the
-/// record has.
+/// A missing attribute resets its field, a missing "MotionDetectionParam" or "ScheduleTimeParam" leaves it. Actions are
+/// added to those that the record has.
 class MotionDetectionEventXml : public IDomainXml
 {
 public:

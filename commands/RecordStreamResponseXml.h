@@ -8,7 +8,8 @@
 
 /// Where a playback can be received: the "RecordStreamResponseCommand" document, the answer to its opening.
 ///
-/// A missing attribute leaves its field, those of the address as well; a missing "StreamAddr" leaves the address.
+/// A missing attribute leaves its field, "IP", "Port" and "IPProtoVar" of the address as well; a missing "StreamAddr"
+/// leaves the address.
 class RecordStreamResponseXml : public IDomainXml
 {
 public:

@@ -7,7 +7,8 @@
 #include <string>
 #include <tinyxml.h>
 
-/// The time zone of a device: the "TimeZoneParam" document.
+/// The time zone of a device: the "TimeZoneParam" document, with the zone as its "TimeZone". The other attributes are
+/// those of `TimeZoneParamXml`.
 ///
 /// A missing attribute leaves its field in the document form. In the node form it gives false, and the fields before it
 /// are set.

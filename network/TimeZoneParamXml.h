@@ -9,6 +9,9 @@
 
 /// The time zone of a device, under the names of another document: "WebParam", with the zone as its "WebServerPort".
 ///
+/// "DSTOpenFlag" and "DSTOffset" tell of daylight saving time, "BeginMonth", "BeginWeekly", "BeginWeekDays" and
+/// "BeginTime" when it begins, "EndMonth", "EndWeekly", "EndWeekDays" and "EndTime" when it ends.
+///
 /// A missing attribute leaves its field in the document form. In the node form it gives false, and the fields before it
 /// are set.
 class TimeZoneParamXml : public IDomainXml

@@ -9,8 +9,8 @@
 /// What recordings are searched for: the "RecordQueryCondition" document, which `RecordQueryResultXml` answers.
 ///
 /// A missing attribute leaves its field, but for "CameraId", which gives 0. A missing "AlarmExTypeList" leaves the
-/// kinds of alarm; one that is there replaces them, even by none. The calendar times are written only: the record makes
-/// them of the others.
+/// kinds of alarm, each "AlarmTypeName", "MajorAlarmType" and "MinorAlarmType"; one that is there replaces them, even
+/// by none. The calendar times are written only: the record makes them of the others.
 class RecordQueryConditionXml : public IDomainXml
 {
 public:
